@@ -1,0 +1,241 @@
+// The one file that knows which system the program runs on.
+#include "base/FileLayer.h"
+
+#include <cerrno>
+
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace emporium {
+
+namespace {
+
+using Path = FileLayer::Path;
+using Handle = FileLayer::Handle;
+
+#ifdef _WIN32
+
+// Virus scanners and sync clients hold a file for moments: these failures pass.
+constexpr int Attempts = 10;
+constexpr DWORD PauseMilliseconds = 30;
+
+std::error_code LastError() {
+    return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
+template <typename Call> std::error_code WithRetries(Call call) {
+    for (int attempt = 1;; ++attempt) {
+        if (call())
+            return {};
+        const DWORD error = GetLastError();
+        const bool passing = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED ||
+                             error == ERROR_LOCK_VIOLATION;
+        if (!passing || attempt == Attempts)
+            return {static_cast<int>(error), std::system_category()};
+        Sleep(PauseMilliseconds);
+    }
+}
+
+HANDLE ToHandle(Handle handle) {
+    return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
+}
+
+FileText ReadOpened(HANDLE handle) {
+    FileText text{FileText::State::Whole, {}, {}};
+    char buffer[65536];
+    DWORD got = 0;
+    do {
+        if (!ReadFile(handle, buffer, sizeof buffer, &got, nullptr))
+            return {FileText::State::Unreadable, {}, LastError()};
+        text.bytes.append(buffer, got);
+    } while (got > 0);
+    return text;
+}
+
+FileText Read(const Path& file) {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const std::error_code error = WithRetries([&] {
+        handle = CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return handle != INVALID_HANDLE_VALUE;
+    });
+    if (error == std::errc::no_such_file_or_directory)
+        return {FileText::State::Absent, {}, {}};
+    if (error)
+        return {FileText::State::Unreadable, {}, error};
+    FileText text = ReadOpened(handle);
+    CloseHandle(handle);
+    return text;
+}
+
+std::error_code CreateNew(const Path& file, Handle& handle) {
+    HANDLE created = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                 FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (created == INVALID_HANDLE_VALUE)
+        return LastError();
+    handle = reinterpret_cast<Handle>(created);
+    return {};
+}
+
+std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
+    DWORD count = 0;
+    const auto size = static_cast<DWORD>(bytes.size() < 1U << 30U ? bytes.size() : 1U << 30U);
+    if (!WriteFile(ToHandle(handle), bytes.data(), size, &count, nullptr))
+        return LastError();
+    written = count;
+    return {};
+}
+
+std::error_code Flush(Handle handle) {
+    return FlushFileBuffers(ToHandle(handle)) ? std::error_code() : LastError();
+}
+
+std::error_code Close(Handle handle) {
+    return CloseHandle(ToHandle(handle)) ? std::error_code() : LastError();
+}
+
+// A new file has the rights of its folder, which is what its predecessor had.
+std::error_code CopyMode(const Path&, const Path&) {
+    return {};
+}
+
+std::error_code Rename(const Path& from, const Path& to) {
+    return WithRetries([&] {
+        return MoveFileExW(from.c_str(), to.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    });
+}
+
+// MOVEFILE_WRITE_THROUGH has flushed already.
+std::error_code FlushFolder(const Path&) {
+    return {};
+}
+
+#else
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+FileText ReadOpened(int descriptor) {
+    FileText text{FileText::State::Whole, {}, {}};
+    struct stat status {};
+    if (::fstat(descriptor, &status) == 0 && status.st_size > 0)
+        text.bytes.reserve(static_cast<std::size_t>(status.st_size) + 1);
+    constexpr std::size_t chunk = 65536;
+    for (;;) {
+        const std::size_t size = text.bytes.size();
+        text.bytes.resize(size + chunk);
+        const ssize_t got = ::read(descriptor, text.bytes.data() + size, chunk);
+        text.bytes.resize(size + static_cast<std::size_t>(got > 0 ? got : 0));
+        if (got == 0)
+            return text;
+        if (got < 0 && errno != EINTR)
+            return {FileText::State::Unreadable, {}, LastError()};
+    }
+}
+
+FileText Read(const Path& file) {
+    // Without O_NONBLOCK a pipe in the file's place would hold the program up for ever.
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0 && (errno == ENOENT || errno == ENOTDIR))
+        return {FileText::State::Absent, {}, {}};
+    if (descriptor < 0)
+        return {FileText::State::Unreadable, {}, LastError()};
+    FileText text = ReadOpened(descriptor);
+    ::close(descriptor);
+    return text;
+}
+
+std::error_code CreateNew(const Path& file, Handle& handle) {
+    constexpr mode_t mode = 0666;
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (descriptor < 0)
+        return LastError();
+    handle = descriptor;
+    return {};
+}
+
+std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
+    ssize_t count = 0;
+    do {
+        count = ::write(static_cast<int>(handle), bytes.data(), bytes.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0)
+        return LastError();
+    written = static_cast<std::size_t>(count);
+    return {};
+}
+
+std::error_code Flush(Handle handle) {
+    return ::fsync(static_cast<int>(handle)) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code Close(Handle handle) {
+    return ::close(static_cast<int>(handle)) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code CopyMode(const Path& from, const Path& to) {
+    struct stat status {};
+    if (::stat(from.c_str(), &status) != 0)
+        return LastError();
+    return ::chmod(to.c_str(), status.st_mode & 07777U) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code Rename(const Path& from, const Path& to) {
+    return std::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code FlushFolder(const Path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return LastError();
+    const std::error_code error = Flush(descriptor);
+    ::close(descriptor);
+    return error;
+}
+
+#endif
+
+std::error_code Remove(const Path& file) {
+    std::error_code error;
+    std::filesystem::remove(file, error);
+    return error;
+}
+
+} // namespace
+
+FileLayer SystemFiles() {
+    return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
+}
+
+bool IsHiddenFile(const std::filesystem::path& file) {
+#ifdef _WIN32
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+#else
+    const std::string name = file.filename().native();
+    return !name.empty() && name.front() == '.';
+#endif
+}
+
+std::filesystem::path RunningProgramFolder() {
+#ifdef _WIN32
+    std::wstring name(32768, L'\0');
+    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+    return Path(name).parent_path();
+#else
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+#endif
+}
+
+} // namespace emporium
