@@ -1,0 +1,82 @@
+#include "names/GenNameSub.h"
+
+#include "base/Ansi.h"
+#include "base/LineReader.h"
+
+#include <vector>
+
+namespace emporium {
+
+namespace {
+
+constexpr std::string_view Male = "Männlich"_ansi;
+constexpr std::string_view Female = "Weiblich";
+
+std::string DrawFrom(NameLists& lists, std::string_view race, std::string_view list) {
+    return lists.DrawName(std::string(race).append(list).append(".dat"));
+}
+
+std::string WithoutTrailingBlanks(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+std::string WithoutOuterBlanks(std::string text) {
+    text = WithoutTrailingBlanks(std::move(text));
+    text.erase(0, text.find_first_not_of(' '));
+    return text;
+}
+
+// What follows the first name.
+std::string Surname(NameLists& lists, const Die& die, std::string_view race, bool male) {
+    if (race == "Zwerge")
+        return (male ? ", Sohn des " : ", Tochter des ") + DrawFrom(lists, race, Male);
+    if (race == "Thorwaler") {
+        const std::string parent = DrawFrom(lists, race, die(2) == 1 ? Male : Female);
+        return " " + parent + (male ? "son" : "sdotter");
+    }
+    if (race == "Tulamiden")
+        return (male ? " ben " : " saba ") + DrawFrom(lists, race, Male);
+    if (race == "Elfen") {
+        const std::string part1 = DrawFrom(lists, race, "Nachname1");
+        return " " + part1 + DrawFrom(lists, race, "Nachname2");
+    }
+    return " " + WithoutOuterBlanks(DrawFrom(lists, race, "Nachname"));
+}
+
+} // namespace
+
+NameLists::NameLists(const FileLayer& files, const Folders& folders, const Die& die)
+    : files_(files), folders_(folders), die_(die) {}
+
+std::string NameLists::DrawName(std::string_view list) {
+    const auto file = folders_.DataFolder / "Borough" / ToPath(list);
+    const FileText text = files_.read(file);
+    std::vector<std::string_view> names;
+    LineReader lines(text.bytes);
+    for (std::string_view line; lines.Next(line);)
+        names.push_back(line);
+    if (names.empty()) {
+        const auto reason = text.state == FileText::State::Absent
+                                ? std::make_error_code(std::errc::no_such_file_or_directory)
+                                : text.reason;
+        if (!failure_)
+            failure_ = FileFailure{file, reason};
+        return {};
+    }
+    const std::int32_t k = die_(static_cast<std::int32_t>(names.size()));
+    return std::string(names[static_cast<std::size_t>(k - 1)]);
+}
+
+std::string GenName(NameLists& lists, const Die& die, std::string_view race, std::string& sex) {
+    if (race == "Mohas")
+        return lists.DrawName("Mohas.dat");
+    if (sex.empty() || sex == "Zufall")
+        sex = die(2) == 1 ? Male : Female;
+    const std::string first = DrawFrom(lists, race, sex);
+    if (race == "Nivesen")
+        return first + " von " + DrawFrom(lists, race, Male) + "s Stamm";
+    return WithoutTrailingBlanks(first) + Surname(lists, die, race, sex == Male);
+}
+
+} // namespace emporium

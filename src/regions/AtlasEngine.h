@@ -1,0 +1,45 @@
+// The twenty regions of the game world: their codes, how far they lie apart, and their long names.
+#pragma once
+
+#include "base/Ansi.h"
+#include "base/FileLayer.h"
+#include "base/Variablen.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace emporium {
+
+inline constexpr std::size_t RegionCount = 20;
+
+/// The codes in table order, from index 1; index 0 is no region.
+inline constexpr std::array<std::string_view, RegionCount + 1> RegionCodes = {
+    "",   "NO", "TH", "BO", "FI", "EL", "OR", "WE",      "TO", "HA", "GA",
+    "ZW", "PU", "LF", "ZY", "KH", "MH", "MA", "SÜ"_ansi, "MO", "WA"};
+
+/// Distances between regions, both indexes 1 to 20 in table order. Not symmetric.
+struct RegionTable {
+    std::array<std::array<std::int16_t, RegionCount + 1>, RegionCount + 1> RegionDistances{};
+    bool settled = false; // a pass of the relaxation has changed nothing
+};
+
+/// The table as the world has it: neighbours at distance 1, everything else at 2.
+RegionTable RegionInit();
+
+/// The distance from one region to another, nothing if either code is unknown. Codes are compared
+/// exactly. Relaxes the table first, which settles it.
+std::optional<std::int16_t> RegionDistance(RegionTable& table, std::string_view first,
+                                           std::string_view second);
+
+/// The long name of a region, empty if the region file does not tell it.
+std::string RegionDescription(const FileLayer& files, const Folders& folders,
+                              std::string_view code);
+
+/// The codes in alphabetical order, as the lists offer them.
+std::vector<std::string_view> AlphabeticalRegionCodes();
+
+} // namespace emporium
