@@ -1,0 +1,132 @@
+#include "store/ArsenalImport.h"
+
+#include "base/Ansi.h"
+#include "base/FileWriting.h"
+#include "base/LineReader.h"
+#include "store/CategoryFiles.h"
+
+#include <array>
+#include <unordered_set>
+
+namespace emporium {
+
+namespace {
+
+// Where a source record holds what, counted from its name line.
+struct SourceForm {
+    std::size_t lines;
+    std::size_t description;
+    std::size_t price;
+    std::size_t unit;
+};
+
+constexpr std::size_t WeightLine = 1;
+
+// In the order of FixedCategories. The availability is the last line.
+constexpr std::array<SourceForm, 3> SourceForms = {
+    {{28, 3, 10, 26}, {22, 3, 8, 20}, {19, 2, 8, 17}}};
+
+constexpr std::string_view UnitLetters = "DSHP";
+
+// The lines of the next source record; false if it ends early. One line before it is passed over.
+bool ReadSourceRecord(LineReader& source, std::vector<std::string_view>& lines) {
+    std::string_view separator;
+    source.Next(separator);
+    for (std::string_view& line : lines) {
+        if (source.AtEnd())
+            return false;
+        source.Next(line);
+    }
+    return true;
+}
+
+ItemRecord ToItemRecord(const std::vector<std::string_view>& lines, const SourceForm& form) {
+    ItemRecord record;
+    record[NameField] = std::string(lines[0]) + '1';
+    record[WeightField] = lines[WeightLine];
+    record[PriceField] = std::string(lines[form.price]).append(lines[form.unit].substr(0, 1));
+    record[DescriptionField] = lines[form.description];
+    record[AvailabilityField] = lines.back();
+    return record;
+}
+
+bool CanBeItem(const std::vector<std::string_view>& lines, const SourceForm& form) {
+    const std::string_view unit = lines[form.unit];
+    return !lines[0].empty() && !unit.empty() && UnitLetters.find(unit[0]) != UnitLetters.npos;
+}
+
+// The source's records whose names the category does not have. Two of one name are both new.
+std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm& form,
+                                   const CategoryFile& category) {
+    std::unordered_set<std::string_view> present;
+    for (const ItemRecord& record : category.records)
+        present.insert(ItemName(record));
+    std::vector<ItemRecord> added;
+    LineReader source(sourceText);
+    std::string_view heading;
+    source.Next(heading);
+    std::vector<std::string_view> lines(form.lines);
+    while (!source.AtEnd() && ReadSourceRecord(source, lines))
+        if (present.count(lines[0]) == 0 && CanBeItem(lines, form))
+            added.push_back(ToItemRecord(lines, form));
+    return added;
+}
+
+std::string FaultLine(const std::filesystem::path& file, const std::error_code& reason) {
+    return FromPath(file.filename()) + ": " + ReasonText(reason);
+}
+
+void ImportCategory(const FileLayer& files, const Folders& folders, std::string_view name,
+                    const SourceForm& form, std::vector<std::string>& faults) {
+    const auto sourceFile = folders.DataFolder / "Arsenal" / CategoryPath(folders, name).filename();
+    const FileText source = files.read(sourceFile);
+    if (source.state == FileText::State::Unreadable)
+        faults.push_back("Arsenal, " + FaultLine(sourceFile, source.reason));
+    if (!source.IsWhole())
+        return;
+    const CategoryFile category = ReadCategoryFile(files, folders, name);
+    if (!category.CanBeWritten()) {
+        const auto found = CategoryFaults(name, category);
+        faults.insert(faults.end(), found.begin(), found.end());
+        return;
+    }
+    const auto added = NewRecords(source.bytes, form, category);
+    if (added.empty())
+        return;
+    const auto file = CategoryPath(folders, name);
+    if (const auto failure = WriteFile(files, file, WithRecords(category, added)))
+        faults.push_back(FaultLine(failure->file, failure->reason));
+}
+
+void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_view name,
+                   std::vector<std::string>& faults) {
+    const auto older = CategoryPath(folders, std::string("Emporium").append(name));
+    if (!FileExists(older))
+        return;
+    const FileText text = files.read(older);
+    if (!text.IsWhole()) {
+        faults.push_back(FaultLine(older, text.reason));
+        return;
+    }
+    const auto failure =
+        WriteFiles(files, folders.EmporiumFolder(),
+                   {{CategoryPath(folders, name), text.bytes}, {older, std::nullopt}});
+    if (failure)
+        faults.push_back(FaultLine(failure->file, failure->reason));
+}
+
+} // namespace
+
+void RenameOldCategoryFiles(const FileLayer& files, const Folders& folders,
+                            std::vector<std::string>& faults) {
+    for (const std::string_view name : FixedCategories())
+        RenameOldFile(files, folders, name, faults);
+}
+
+void ImportArsenal(const FileLayer& files, const Folders& folders,
+                   std::vector<std::string>& faults) {
+    for (std::size_t i = 0; i < SourceForms.size(); ++i)
+        ImportCategory(files, folders, FixedCategories()[i], SourceForms[i], faults);
+}
+
+} // namespace emporium

@@ -1,0 +1,25 @@
+// What start-up does to the three fixed categories: their files are brought from older names to the
+// present ones, and weapons and armour of the sibling tool that they lack are added. The import
+// only ever adds; a name that is there already is left as it is.
+#pragma once
+
+#include "base/Subs.h"
+#include "base/Variablen.h"
+
+#include <string>
+#include <vector>
+
+namespace emporium {
+
+/// Brings the files to their present names, over files of that name. Adds to `faults` what failed;
+/// both files stand as before then.
+void RenameOldCategoryFiles(const FileLayer& files, const Folders& folders,
+                            std::vector<std::string>& faults);
+
+/// Adds what the fixed categories lack, in source order, with the Wert 1. A missing source is
+/// passed over, a record that ends early ends its import. Each category file is written whole or
+/// not at all. Adds to `faults` what could not be read or written.
+void ImportArsenal(const FileLayer& files, const Folders& folders,
+                   std::vector<std::string>& faults);
+
+} // namespace emporium

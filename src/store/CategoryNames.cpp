@@ -1,0 +1,59 @@
+#include "store/CategoryNames.h"
+
+#include "base/Ansi.h"
+#include "store/CategoryFiles.h"
+
+#include <algorithm>
+#include <array>
+
+namespace emporium {
+
+namespace {
+
+// Files of the folder that are no category, or are renamed to one at the next start.
+bool IsOwnFile(std::string_view name) {
+    static const std::array<std::string, 6> own = {
+        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
+        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
+    return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
+}
+
+// A file whose name differs at most in case; on Windows that is the same file.
+bool FileStands(const Folders& folders, std::string_view name) {
+    const std::string wanted = FoldCase(FromPath(CategoryPath(folders, name).filename()));
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folders.EmporiumFolder(), error), end;
+         !error && entry != end; entry.increment(error))
+        if (FoldCase(FromPath(entry->path().filename())) == wanted)
+            return true;
+    return false;
+}
+
+} // namespace
+
+std::string CategoryNameRefusal(const Folders& folders, const std::vector<std::string>& listed,
+                                std::string_view name) {
+    if (name == AllCategories || std::find(listed.begin(), listed.end(), name) != listed.end())
+        return std::string(
+            "Diese Kategorie existiert bereits, ihr müsst einen anderen Namen wählen."_ansi);
+    if (!IsPlainName(name))
+        return std::string(
+            "Diesen Namen kann keine Datei tragen, ihr müsst einen anderen wählen. Er darf "
+            "höchstens 100 Zeichen lang sein, keines der Zeichen \\ / : * ? \" < > | enthalten, "
+            "nicht mit einem Leerzeichen oder Punkt beginnen oder enden und kein Gerätename "
+            "wie CON sein."_ansi);
+    const std::string folded = FoldCase(name);
+    const bool differsInCase =
+        std::any_of(listed.begin(), listed.end(),
+                    [&folded](const std::string& other) { return FoldCase(other) == folded; });
+    if (differsInCase)
+        return std::string("Eine Kategorie, deren Name sich nur in Groß- und Kleinschreibung "
+                           "unterscheidet, existiert bereits, ihr müsst einen anderen Namen "
+                           "wählen."_ansi);
+    if (IsOwnFile(name) || FileStands(folders, name))
+        return std::string("Im Ordner der Kategorien gehört dieser Name schon einer anderen "
+                           "Datei, ihr müsst einen anderen wählen."_ansi);
+    return {};
+}
+
+} // namespace emporium
