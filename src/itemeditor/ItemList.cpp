@@ -1,0 +1,77 @@
+#include "itemeditor/ItemList.h"
+
+#include "base/GermanOrder.h"
+#include "itemeditor/ItemForm.h"
+
+#include <algorithm>
+
+namespace emporium {
+
+namespace {
+
+void InsertSorted(ItemEditor& editor, int record) {
+    auto& list = editor.lvGegenstände;
+    const auto cell = [&](int row) { return ItemCell(editor.Record(row), list.sort.column); };
+    const auto before = [&](int left, int right) {
+        if (cell(left) == cell(right))
+            return left < right;
+        return list.sort.descending ? GermanLess(cell(right), cell(left))
+                                    : GermanLess(cell(left), cell(right));
+    };
+    list.rows.insert(std::lower_bound(list.rows.begin(), list.rows.end(), record, before), record);
+}
+
+} // namespace
+
+std::string_view ItemCell(const ItemRecord& record, int column) {
+    return column == ItemNameColumn ? ItemName(record) : std::string_view(record[PriceField]);
+}
+
+void FillItemList(ItemEditor& editor) {
+    auto& list = editor.lvGegenstände;
+    list.rows = GermanOrderOf(editor.Items.size(), list.sort.descending, [&](std::size_t row) {
+        return ItemCell(editor.Items[row], list.sort.column);
+    });
+    ++list.revision;
+}
+
+void AddItemRow(ItemEditor& editor, int record) {
+    InsertSorted(editor, record);
+    ++editor.lvGegenstände.revision;
+}
+
+void DropItemRow(ItemEditor& editor, int record) {
+    auto& rows = editor.lvGegenstände.rows;
+    rows.erase(std::find(rows.begin(), rows.end(), record));
+    for (int& row : rows)
+        if (row > record)
+            --row;
+    ++editor.lvGegenstände.revision;
+}
+
+void PlaceItemRow(ItemEditor& editor, int record) {
+    auto& rows = editor.lvGegenstände.rows;
+    rows.erase(std::find(rows.begin(), rows.end(), record));
+    AddItemRow(editor, record);
+}
+
+void SortItemList(ItemEditor& editor, int column) {
+    editor.lvGegenstände.sort.Click(column);
+    FillItemList(editor);
+}
+
+void ChooseItemRow(ItemEditor& editor, const Platform& platform, const Folders& folders,
+                   int record) {
+    editor.EditingExisting = true;
+    editor.CurrentItemRow = record;
+    ShowItemInForm(editor, platform, folders, record);
+    editor.lvGegenstände.toolTip = ItemName(editor.Record(record));
+}
+
+int ChosenPlace(const ItemEditor& editor) {
+    const auto& rows = editor.lvGegenstände.rows;
+    const auto found = std::find(rows.begin(), rows.end(), editor.CurrentItemRow);
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+} // namespace emporium
