@@ -1,0 +1,57 @@
+// The wares of the shop: adding, removing, giving a quantity or a price by hand, and the order of
+// the list, which is also the order in the documents. "The current row" is the one that the user
+// has picked; without one the row operations do nothing.
+#pragma once
+
+#include "base/Platform.h"
+#include "itemeditor/ItemEditor.h"
+#include "shopeditor/ShopEditor.h"
+
+#include <string_view>
+
+namespace emporium {
+
+/// A ware of the four lines of an item record. Its price is shown as it comes; the base price is
+/// 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
+std::unique_ptr<ShopRow> MakeShopRow(std::string_view nameLine, std::string_view weight,
+                                     std::string_view price, std::string_view availability);
+
+/// Adds a ware at its sorted place. The shop must have room, see ShopIsFull.
+void AddShopRow(ShopEditor& shop, std::unique_ptr<ShopRow> row);
+
+/// True if the shop holds as many wares as it can.
+bool ShopIsFull(const ShopEditor& shop);
+inline constexpr std::string_view ShopFullText =
+    "Der Shop ist voll: Er fasst höchstens 32767 Waren."_ansi;
+
+/// cmdItemHin: adds the chosen item, or says in a box that the shop is full.
+void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& platform);
+
+/// Removes the current row. The one that takes its place is current then, or the last one.
+void RemoveShopRow(ShopEditor& shop);
+
+/// Asks for a number and writes it behind the ware's name, in place of an earlier one.
+void SetShopRowQuantity(ShopEditor& shop, const Platform& platform);
+
+/// Asks for a price, which takes the unit of the old one and holds until a level is chosen.
+void SetShopRowPrice(ShopEditor& shop, const Platform& platform);
+
+/// The user picks a row.
+void ChooseShopRow(ShopEditor& shop, int row);
+
+/// Removes all rows and the choice of a price level.
+void ClearShop(ShopEditor& shop);
+
+/// Ties buttons to the shop's having wares.
+void UpdateShopButtons(ShopEditor& shop);
+
+/// A click on a column's header.
+void SortShopList(ShopEditor& shop, int column);
+
+/// Brings all rows into the order of the list; the current ware stays current.
+void ArrangeShopList(ShopEditor& shop);
+
+/// What the list shows of a ware.
+std::string_view ShopCell(const ShopRow& row, int column);
+
+} // namespace emporium

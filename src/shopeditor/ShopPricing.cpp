@@ -1,0 +1,80 @@
+#include "shopeditor/ShopPricing.h"
+
+#include "base/GermanNumber.h"
+#include "names/GenNameSub.h"
+#include "shopeditor/ShopList.h"
+
+#include <array>
+
+namespace emporium {
+
+namespace {
+
+struct PriceLevel {
+    std::string_view name;
+    double factor;
+};
+
+constexpr std::array<PriceLevel, 5> PriceLevels = {{{"Sehr billig", 0.7},
+                                                    {"Billig", 0.85},
+                                                    {"Durchschnittlich", 1.0},
+                                                    {"Teuer", 1.2},
+                                                    {"Sehr teuer / Wucher", 1.5}}};
+
+} // namespace
+
+std::vector<std::string_view> PriceLevelNames() {
+    std::vector<std::string_view> names;
+    for (const PriceLevel& level : PriceLevels)
+        names.push_back(level.name);
+    return names;
+}
+
+std::string LevelPriceText(std::int16_t basePrice, int level) {
+    return GermanNumberText(basePrice * PriceLevels[static_cast<std::size_t>(level)].factor);
+}
+
+void ChoosePriceLevel(ShopEditor& shop, int index) {
+    shop.cmbShopPreise.Select(index);
+    ApplyPriceLevel(shop);
+}
+
+void ApplyPriceLevel(ShopEditor& shop) {
+    const int level = shop.cmbShopPreise.Selection();
+    if (level < 0)
+        return;
+    for (const auto& row : shop.lvLaden.rows) {
+        const std::string unit = row->Price.substr(WithoutLast(row->Price).size());
+        row->Price = LevelPriceText(row->ShopBasePrice, level) + unit;
+    }
+    if (shop.lvLaden.sort.column == ShopPriceColumn)
+        ArrangeShopList(shop);
+    ++shop.lvLaden.revision;
+}
+
+void ChooseShopRegion(ShopEditor& shop, const Platform& platform, const Folders& folders,
+                      int index) {
+    shop.cmbShopRegion.Select(index);
+    shop.cmbShopRegion.toolTip =
+        RegionDescription(platform.files, folders, shop.cmbShopRegion.Text());
+}
+
+void ChooseRace(ShopEditor& shop, int index) {
+    shop.cmbRasse.Select(index);
+    shop.cmdGenName.enabled = !shop.cmbRasse.Text().empty();
+}
+
+void DrawOwnerName(ShopEditor& shop, const Platform& platform, const Folders& folders) {
+    NameLists lists(platform.files, folders, platform.RollDice);
+    std::string sex;
+    std::string name = GenName(lists, platform.RollDice, shop.cmbRasse.Text(), sex);
+    if (lists.Failure())
+        platform.ShowMessage(
+            FailureText("Es konnte kein Name gezogen werden, weil eine Namensliste fehlt oder "
+                        "nicht zu lesen ist.",
+                        *lists.Failure()));
+    else
+        shop.txtBesitzerName.text = std::move(name);
+}
+
+} // namespace emporium
