@@ -1,0 +1,61 @@
+#include "documents/PrintHost.h"
+
+#include "base/Ansi.h"
+#include "base/FileWriting.h"
+
+namespace emporium {
+
+namespace {
+
+enum class Wait { Ready, TimedOut, WindowClosed };
+
+Wait WaitForPage(const PrintHost& host, const Platform& platform) {
+    using Clock = std::chrono::steady_clock;
+    const auto deadline = Clock::now() + platform.PreviewTimeout;
+    while (!host.PreviewReady) {
+        if (!platform.ProcessEvents())
+            return Wait::WindowClosed;
+        if (Clock::now() > deadline)
+            return Wait::TimedOut;
+    }
+    return Wait::Ready;
+}
+
+// Writes the document, loads it and prints it. The result is the text of a box, empty if all is
+// well.
+std::string Print(PrintHost& host, const Platform& platform, const Folders& folders,
+                  const std::function<void(std::string& file)>& writer) {
+    const auto page = folders.TempFolder / "Temp.html";
+    host.PreviewReady = false;
+    std::string document;
+    writer(document);
+    if (const auto failure = WriteFile(platform.files, page, std::move(document)))
+        return FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
+    platform.Browser.Navigate(page);
+    const Wait wait = WaitForPage(host, platform);
+    host.PreviewReady = false;
+    if (wait == Wait::WindowClosed)
+        return {};
+    if (wait == Wait::TimedOut)
+        return "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
+    if (!platform.Browser.Print())
+        return "Der Drucker hat einen Fehler gemeldet, es wurde nichts oder nicht alles gedruckt.";
+    return {};
+}
+
+} // namespace
+
+void PrintTempDocument(PrintHost& host, const Platform& platform, const Folders& folders,
+                       const std::function<void(std::string& file)>& writer) {
+    if (host.busy)
+        return;
+    host.busy = true;
+    platform.Browser.SetVisible(true);
+    const std::string fault = Print(host, platform, folders, writer);
+    platform.Browser.SetVisible(false);
+    host.busy = false;
+    if (!fault.empty())
+        platform.ShowMessage(fault);
+}
+
+} // namespace emporium

@@ -1,0 +1,20 @@
+// The shop as a page for the game table: the form for export and the form for print, which differ
+// in some lines and columns, and the command that exports.
+#pragma once
+
+#include "base/Platform.h"
+#include "base/Variablen.h"
+#include "shopeditor/ShopEditor.h"
+
+#include <string>
+
+namespace emporium {
+
+void WriteShopExport(const ShopEditor& shop, std::string& file);
+void WriteShopPrint(const ShopEditor& shop, std::string& file);
+
+/// cmdShopExport: asks for a file, writes the shop into it and offers to show it. If the file can't
+/// be written, a box says so, and a file that was there before stays as it was.
+void ExportShop(const ShopEditor& shop, const Platform& platform, const Folders& folders);
+
+} // namespace emporium
