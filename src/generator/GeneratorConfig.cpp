@@ -1,0 +1,47 @@
+#include "generator/GeneratorConfig.h"
+
+#include "base/Ansi.h"
+#include "base/FileWriting.h"
+#include "base/GermanNumber.h"
+#include "base/LineReader.h"
+
+namespace emporium {
+
+namespace {
+
+FileText ReadConfigFile(const FileLayer& files, const Folders& folders, const char* name,
+                        std::vector<std::string>& faults) {
+    FileText text = files.read(folders.EmporiumFolder() / name);
+    if (text.state == FileText::State::Absent)
+        faults.push_back(std::string(name) + ": Die Datei fehlt.");
+    if (text.state == FileText::State::Unreadable)
+        faults.push_back(std::string(name) + ": " + ReasonText(text.reason));
+    return text;
+}
+
+} // namespace
+
+std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
+                                       std::vector<std::string>& faults) {
+    const FileText text = ReadConfigFile(files, folders, "ShopgeneratorShops.dat", faults);
+    std::vector<std::string> types;
+    LineReader lines(text.bytes);
+    for (std::string_view line; lines.Next(line);)
+        types.emplace_back(line);
+    return types;
+}
+
+IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
+                            std::vector<std::string>& faults) {
+    return IniFile(ReadConfigFile(files, folders, "ShopgeneratorConfig.dat", faults).bytes);
+}
+
+std::int16_t ReadWareCount(const IniFile& config, std::string_view shopType) {
+    return RoundToInt16(ReadGermanNumber(config.Value(shopType, "WareCount")).value_or(0));
+}
+
+std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n) {
+    return config.Value(shopType, "Ware" + std::to_string(n));
+}
+
+} // namespace emporium

@@ -1,0 +1,32 @@
+// What the generator knows of shop types: two files that a user extends with a text editor.
+#pragma once
+
+#include "base/FileLayer.h"
+#include "base/Subs.h"
+#include "base/Variablen.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace emporium {
+
+/// The shop types in file order, an empty line as an empty type. Adds to `faults` what could not
+/// be read; a missing file gives no types.
+std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
+                                       std::vector<std::string>& faults);
+
+/// The file that tells which categories a type draws on; empty if it can't be read, which is added
+/// to `faults`.
+IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
+                            std::vector<std::string>& faults);
+
+/// How many categories the type names: 0 for a text that is no number, the nearest limit for one
+/// beyond 16 bits.
+std::int16_t ReadWareCount(const IniFile& config, std::string_view shopType);
+
+/// The category of number n, from 1, empty if the type names none.
+std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n);
+
+} // namespace emporium

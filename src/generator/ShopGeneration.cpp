@@ -1,0 +1,120 @@
+#include "generator/ShopGeneration.h"
+
+#include "base/FileWriting.h"
+#include "generator/GeneratorConfig.h"
+#include "regions/Availability.h"
+#include "shopeditor/ShopList.h"
+#include "shopeditor/ShopPricing.h"
+
+#include <algorithm>
+#include <array>
+
+namespace emporium {
+
+namespace {
+
+// The first throw must reach N - quality, N by the Wert digits 1 to 5.
+constexpr std::array<int, 5> RarityThresholds = {4, 5, 6, 7, 9};
+
+constexpr int StartDistance = 20; // above every distance
+
+bool PassesRarity(std::string_view nameLine, int quality, const Die& RollDice) {
+    const char digit = nameLine.empty() ? ' ' : nameLine.back();
+    if (digit < '1' || digit > '5')
+        return false;
+    return RollDice(6) >= RarityThresholds[static_cast<std::size_t>(digit - '1')] - quality;
+}
+
+// The distance from the nearest region where the ware is made.
+int NearestDistance(std::string_view availability, std::string_view region, RegionTable& regions) {
+    if (availability.find(region) != availability.npos)
+        return 0;
+    // Three characters a code, rounded; a string of another form may have fewer entries.
+    const std::size_t codes = (availability.size() + 1) / 3;
+    const auto entries = AvailabilityCodes(availability);
+    int smallest = StartDistance;
+    for (std::size_t i = 0; i < std::min(codes, entries.size()) && smallest != 1; ++i) {
+        const int distance = RegionDistance(regions, entries[i], region).value_or(0);
+        smallest = std::min(smallest, distance);
+    }
+    return smallest;
+}
+
+bool PassesRegion(std::string_view availability, std::string_view region, RegionTable& regions,
+                  const Die& RollDice) {
+    if (availability.empty())
+        return false;
+    return RollDice(20) < 20 - 3 * NearestDistance(availability, region, regions);
+}
+
+// Draws from one category into the shop, without regard to the list's order. False if the shop is
+// full.
+bool DrawCategory(const CategoryFile& category, const ShopWishes& wishes, RegionTable& regions,
+                  const Die& RollDice, ShopEditor& shop) {
+    for (const ItemRecord& record : category.records) {
+        if (!DrawRecord(record, wishes, regions, RollDice))
+            continue;
+        if (ShopIsFull(shop))
+            return false;
+        shop.lvLaden.rows.push_back(MakeShopRow(record[NameField], record[WeightField],
+                                                record[PriceField], record[AvailabilityField]));
+    }
+    return true;
+}
+
+void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, RegionTable& regions,
+              const Platform& platform, const Folders& folders, std::vector<std::string>& faults) {
+    const std::string shopType = dialog.cmbShopBeruf.Text();
+    const std::string region = dialog.cmbShopRegion.Text();
+    const ShopWishes wishes{dialog.cmbShopQualität.Text().front() - '0',
+                            dialog.chkShopRegion.ticked, region};
+    const IniFile config = ReadGeneratorConfig(platform.files, folders, faults);
+    const std::int16_t count = ReadWareCount(config, shopType);
+    for (int n = 1; n <= count; ++n) {
+        const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
+        if (!IsPlainName(name) || !FileExists(CategoryPath(folders, name)))
+            continue;
+        const CategoryFile category = ReadCategoryFile(platform.files, folders, name);
+        if (category.state == FileText::State::Unreadable)
+            faults.push_back(name + ".dat: " + ReasonText(category.reason));
+        if (!DrawCategory(category, wishes, regions, platform.RollDice, shop)) {
+            faults.emplace_back(ShopFullText);
+            return;
+        }
+    }
+}
+
+// The choices count like choices of the user.
+void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
+              const Folders& folders) {
+    shop.cmbShopQualität.Select(dialog.cmbShopQualität.Selection());
+    if (shop.ShopCount() > 0)
+        ChoosePriceLevel(shop, dialog.cmbShopPreise.Selection());
+    ChooseShopRegion(shop, platform, folders, dialog.cmbShopRegion.Selection());
+    shop.txtShopart.text = dialog.cmbShopBeruf.Text();
+}
+
+} // namespace
+
+bool DrawRecord(const ItemRecord& record, const ShopWishes& wishes, RegionTable& regions,
+                const Die& RollDice) {
+    return PassesRarity(record[NameField], wishes.quality, RollDice) &&
+           (!wishes.regionCounts ||
+            PassesRegion(record[AvailabilityField], wishes.region, regions, RollDice));
+}
+
+void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, RegionTable& regions,
+                  const Platform& platform, const Folders& folders) {
+    platform.SetWaitPointer(true);
+    std::vector<std::string> faults;
+    DrawShop(dialog, shop, regions, platform, folders, faults);
+    ArrangeShopList(shop);
+    UpdateShopButtons(shop);
+    HandOver(dialog, shop, platform, folders);
+    platform.SetWaitPointer(false);
+    dialog.open = false;
+    if (!faults.empty())
+        platform.ShowMessage(FaultsText(faults));
+}
+
+} // namespace emporium

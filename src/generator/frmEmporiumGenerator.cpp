@@ -1,0 +1,82 @@
+#include "generator/frmEmporiumGenerator.h"
+
+#include "generator/GeneratorConfig.h"
+#include "shopeditor/ShopList.h"
+#include "shopeditor/ShopPricing.h"
+
+namespace emporium {
+
+frmEmporiumGenerator::frmEmporiumGenerator()
+    : cmbShopPreise(ChoiceList::Order::AsAdded, PriceLevelNames()),
+      cmbShopQualität(ChoiceList::Order::AsAdded, {"1 - Schlecht", "2 - Einfach", "3 - Solide",
+                                                   "4 - Sehr gut", "5 - Spezialist"}),
+      cmbShopRegion(ChoiceList::Order::AsAdded, AlphabeticalRegionCodes()) {
+    cmbShopRegion.enabled = false;
+    cmdStart.enabled = false;
+}
+
+std::string GeneratorCaption() {
+    return std::string(ProgramTitle) + " - Shopgenerator";
+}
+
+void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
+                   const Folders& folders) {
+    if (shop.ShopCount() > 0 &&
+        !platform.AskYesNo({std::string("Ihr arbeitet momentan an einem Shop, beim Start des "
+                                        "Generators werden sämtliche Werte verworfen ! Wollt ihr "
+                                        "den Generator wirklich starten ?"_ansi),
+                            BoxIcon::Warning, std::string(ProgramTitle)}))
+        return;
+    dialog = frmEmporiumGenerator();
+    std::vector<std::string> faults;
+    for (const std::string& type : ReadShopTypes(platform.files, folders, faults))
+        dialog.cmbShopBeruf.Add(type);
+    ClearShop(shop);
+    if (!faults.empty())
+        platform.ShowMessage(FaultsText(faults));
+    dialog.open = true;
+    platform.ShowGeneratorDialog();
+    dialog.open = false;
+}
+
+void ChooseShopType(frmEmporiumGenerator& dialog, int index) {
+    dialog.cmbShopBeruf.Select(index);
+    UpdateStartButton(dialog);
+}
+
+void ChooseGeneratorPrices(frmEmporiumGenerator& dialog, int index) {
+    dialog.cmbShopPreise.Select(index);
+    UpdateStartButton(dialog);
+}
+
+void ChooseGeneratorQuality(frmEmporiumGenerator& dialog, int index) {
+    dialog.cmbShopQualität.Select(index);
+    UpdateStartButton(dialog);
+}
+
+void ChooseGeneratorRegion(frmEmporiumGenerator& dialog, const Platform& platform,
+                           const Folders& folders, int index) {
+    dialog.cmbShopRegion.Select(index);
+    dialog.lblRegionen.caption =
+        RegionDescription(platform.files, folders, dialog.cmbShopRegion.Text());
+    UpdateStartButton(dialog);
+}
+
+void TickShopRegion(frmEmporiumGenerator& dialog, bool ticked) {
+    dialog.chkShopRegion.ticked = ticked;
+    dialog.cmbShopRegion.enabled = ticked;
+    UpdateStartButton(dialog);
+    if (dialog.cmbShopRegion.Text().empty())
+        dialog.cmdStart.enabled = false;
+}
+
+void UpdateStartButton(frmEmporiumGenerator& dialog) {
+    if (dialog.cmbShopBeruf.Text().empty() || dialog.cmbShopPreise.Text().empty() ||
+        dialog.cmbShopQualität.Text().empty())
+        dialog.cmdStart.enabled = false;
+    else if (!dialog.cmbShopRegion.Text().empty() || !dialog.chkShopRegion.ticked)
+        dialog.cmdStart.enabled = true;
+    // Otherwise the region is still missing, and the button keeps its state.
+}
+
+} // namespace emporium
