@@ -1,0 +1,54 @@
+#include "frame/frmEmporiumMain.h"
+
+#include "base/FileWriting.h"
+#include "frame/Version.h"
+#include "itemeditor/CategoryChoice.h"
+#include "shopeditor/ShopList.h"
+#include "store/ArsenalImport.h"
+
+namespace emporium {
+
+namespace {
+
+std::string Caption() {
+    return std::string(ProgramTitle) + " v" + std::to_string(VersionMajor) + "." +
+           std::to_string(VersionMinor) + std::to_string(VersionRevision) +
+           " - Die Velmar Tuchhalle";
+}
+
+} // namespace
+
+void StartUp(frmEmporiumMain& window, const Platform& platform,
+             const std::filesystem::path& programFolder) {
+    std::vector<std::string> faults;
+    window.folders = InitFolders(programFolder);
+    window.regions = RegionInit();
+    const Folders& folders = window.folders;
+    if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder()))
+        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
+    RenameOldCategoryFiles(platform.files, folders, faults);
+    ImportArsenal(platform.files, folders, faults);
+    ReadCategoryList(window.items, platform.files, folders, faults);
+    window.caption = Caption();
+    if (!faults.empty())
+        platform.ShowMessage(FaultsText(faults));
+}
+
+void ShowItemEditor(frmEmporiumMain& window) {
+    window.mode = Mode::ItemEditor;
+    window.items.cmdItemHin.visible = false;
+}
+
+void ShowShopEditor(frmEmporiumMain& window) {
+    window.mode = Mode::ShopEditor;
+    window.items.cmdItemHin.visible = true;
+    if (!window.items.lvGegenstände.visible)
+        window.items.cmdItemHin.enabled = false;
+    UpdateShopButtons(window.shop);
+}
+
+void OpenHelp(const frmEmporiumMain& window, const Platform& platform) {
+    platform.OpenInViewer(window.folders.HilfeFolder / "Emporium.htm");
+}
+
+} // namespace emporium

@@ -1,0 +1,41 @@
+// The main window's state: the two editors, the shop, the print and the mode, and the sequence that
+// starts the program.
+#pragma once
+
+#include "base/Platform.h"
+#include "base/Variablen.h"
+#include "documents/PrintHost.h"
+#include "generator/frmEmporiumGenerator.h"
+#include "itemeditor/ItemEditor.h"
+#include "regions/AtlasEngine.h"
+#include "shopeditor/ShopEditor.h"
+
+#include <string>
+
+namespace emporium {
+
+enum class Mode { ItemEditor, ShopEditor };
+
+struct frmEmporiumMain {
+    Folders folders;
+    RegionTable regions;
+    std::string caption;
+    Mode mode = Mode::ItemEditor;
+    ItemEditor items;
+    ShopEditor shop;
+    PrintHost print;
+    frmEmporiumGenerator generator;
+};
+
+/// Starts the program: what a killed run left is finished, the category files are brought up to
+/// date and the category list is read. What could not be read or written is told in one box.
+void StartUp(frmEmporiumMain& window, const Platform& platform,
+             const std::filesystem::path& programFolder);
+
+void ShowItemEditor(frmEmporiumMain& window);
+void ShowShopEditor(frmEmporiumMain& window);
+
+/// Opens the help page in the system's viewer. A failure goes unseen.
+void OpenHelp(const frmEmporiumMain& window, const Platform& platform);
+
+} // namespace emporium
