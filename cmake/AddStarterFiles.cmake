@@ -1,0 +1,11 @@
+# Copies every file below FROM that is missing below TO.
+file(GLOB_RECURSE names RELATIVE ${FROM} ${FROM}/*)
+foreach(name IN LISTS names)
+    if(NOT EXISTS ${TO}/${name})
+        get_filename_component(folder ${name} DIRECTORY)
+        file(COPY ${FROM}/${name} DESTINATION ${TO}/${folder})
+    endif()
+endforeach()
+foreach(folder HTML Hilfe Temp)
+    file(MAKE_DIRECTORY ${TO}/${folder})
+endforeach()

@@ -1,0 +1,11 @@
+#include "base/FileLayer.h"
+#include "ui/Application.h"
+#include "ui/MainWindow.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    emporium::ui::SetUpApplication(application);
+    emporium::ui::MainWindow window(emporium::RunningProgramFolder());
+    window.show();
+    return QApplication::exec();
+}

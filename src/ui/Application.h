@@ -1,0 +1,11 @@
+// What every program with the window sets up first: language, look and font, the same on every
+// desktop and under every theme.
+#pragma once
+
+#include <QApplication>
+
+namespace emporium::ui {
+
+void SetUpApplication(QApplication& application);
+
+} // namespace emporium::ui

@@ -1,0 +1,86 @@
+#include "ui/GeneratorDialog.h"
+
+#include "generator/ShopGeneration.h"
+#include "ui/Text.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+namespace emporium::ui {
+
+GeneratorDialog::GeneratorDialog(QWidget* window, Session& session)
+    : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      session_(session) {
+    auto& dialog = session_.state.generator;
+    setObjectName("frmEmporiumGenerator");
+    setWindowTitle(ToQString(GeneratorCaption()));
+    setFixedSize(Px(4200), Px(4920));
+    QPalette grey = palette();
+    grey.setColor(QPalette::Window, CaptionFrame::Grey);
+    setPalette(grey);
+    const auto choice = [&](const char* frame, const QString& caption, int top, const char* name,
+                            const ChoiceList& state, void (*choose)(frmEmporiumGenerator&, int)) {
+        auto* box = BuildChoice(BuildFrame(frame, caption, top, 615), name, state, 240);
+        connect(box, &QComboBox::activated, this, [this, &dialog, choose](int index) {
+            session_.Do([&] { choose(dialog, index); });
+        });
+    };
+    choice("Frame1", "Art des Shops", 120, "cmbShopBeruf", dialog.cmbShopBeruf, ChooseShopType);
+    choice("Frame3", "Preise", 960, "cmbShopPreise", dialog.cmbShopPreise, ChooseGeneratorPrices);
+    choice("Frame2", "Qualität", 1800, "cmbShopQualität", dialog.cmbShopQualität,
+           ChooseGeneratorQuality);
+    BuildRegion();
+
+    auto* start = Place(Named(new QPushButton("Shop berechnen lassen", this), "cmdStart"), 0, 4440,
+                        4215, 495);
+    start->setDefault(true);
+    session_.mirror.Bind(start, dialog.cmdStart);
+    connect(start, &QPushButton::clicked, this, [&] {
+        session_.Do([&] {
+            GenerateShop(dialog, session_.state.shop, session_.state.regions, session_.platform,
+                         session_.state.folders);
+        });
+    });
+    session_.mirror.Bind([this, &dialog] {
+        if (!dialog.open && isVisible())
+            accept();
+    });
+}
+
+CaptionFrame* GeneratorDialog::BuildFrame(const char* name, const QString& caption, int top,
+                                          int height) {
+    auto* frame = new CaptionFrame(this, CaptionFrame::Look::Grey, caption);
+    return Place(Named(frame, name), 120, top, 3975, height);
+}
+
+ChoiceBox* GeneratorDialog::BuildChoice(CaptionFrame* frame, const char* name,
+                                        const ChoiceList& state, int top) {
+    auto* box = Place(Named(new ChoiceBox(frame), name), 120, top, 3735, 315);
+    box->setAccessibleName(frame->accessibleName());
+    session_.mirror.Bind(box, state);
+    return box;
+}
+
+void GeneratorDialog::BuildRegion() {
+    auto& state = session_.state;
+    auto& dialog = state.generator;
+    auto* frame = BuildFrame("Frame4", "Region", 2640, 1575);
+    auto* counts = new QCheckBox("Region in die Berechnung miteinbeziehen", frame);
+    Place(Named(counts, "chkShopRegion"), 120, 240, 3735, 255);
+    session_.mirror.Bind(counts, dialog.chkShopRegion);
+    connect(counts, &QCheckBox::clicked, this,
+            [this, &dialog](bool ticked) { session_.Do([&] { TickShopRegion(dialog, ticked); }); });
+    auto* region = BuildChoice(frame, "cmbShopRegion", dialog.cmbShopRegion, 600);
+    connect(region, &QComboBox::activated, this, [&](int index) {
+        session_.Do(
+            [&] { ChooseGeneratorRegion(dialog, session_.platform, state.folders, index); });
+    });
+    auto* name = Place(Named(new QLabel(frame), "lblRegionen"), 120, 960, 3735, 495);
+    name->setTextFormat(Qt::PlainText);
+    name->setWordWrap(true);
+    name->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    session_.mirror.Bind(name, dialog.lblRegionen);
+}
+
+} // namespace emporium::ui

@@ -1,0 +1,31 @@
+// The page that is printed. It shows one local file as a browser shows it, loads nothing else and
+// runs nothing, whatever the names in it contain.
+#pragma once
+
+#include <QPrinter>
+#include <QTextBrowser>
+
+#include <filesystem>
+
+namespace emporium::ui {
+
+class HtmlView : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    explicit HtmlView(QWidget* parent);
+
+    /// Loads a document of the program; `navigateComplete` tells when it is there. A file that
+    /// can't be read is never reported.
+    void Navigate(const std::filesystem::path& file);
+
+    /// Prints the page. False if the printer or the file that it prints to failed.
+    bool PrintTo(QPrinter& printer);
+
+    QVariant loadResource(int type, const QUrl& name) override;
+
+signals:
+    void navigateComplete();
+};
+
+} // namespace emporium::ui

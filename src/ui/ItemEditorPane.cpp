@@ -1,0 +1,279 @@
+#include "ui/ItemEditorPane.h"
+
+#include "documents/ItemListDocument.h"
+#include "itemeditor/AvailabilityEditor.h"
+#include "itemeditor/CategoryChoice.h"
+#include "itemeditor/ItemForm.h"
+#include "itemeditor/ItemList.h"
+#include "itemeditor/ItemSaving.h"
+#include "shopeditor/ShopList.h"
+#include "ui/Pictures.h"
+#include "ui/Text.h"
+
+#include <QLabel>
+#include <QListWidget>
+
+namespace emporium::ui {
+
+namespace {
+
+constexpr auto Black = CaptionFrame::Look::Black;
+constexpr auto Grey = CaptionFrame::Look::Grey;
+
+} // namespace
+
+ItemEditorPane::ItemEditorPane(QWidget* window, Session& session)
+    : QObject(window), session_(session), tab_(Named(new QTabWidget(window), "ItemTab")) {
+    BuildList(window);
+    Place(tab_, 3240, 360, 6255, 6255);
+    BuildProperties();
+    BuildAvailability();
+    BuildNotice();
+    session_.mirror.Bind(tab_, [this] { return session_.state.mode == Mode::ItemEditor; });
+}
+
+void ItemEditorPane::BuildList(QWidget* window) {
+    auto& state = session_.state;
+    auto& items = state.items;
+    auto* frame = Place(Named(new CaptionFrame(window, Black, "Gegenstände"), "frmGegenstände"), 0,
+                        480, 3135, 5895);
+    BuildCategories(frame);
+
+    const TableSource source{[&items] { return static_cast<int>(items.lvGegenstände.rows.size()); },
+                             [&items](int row, int column) {
+                                 const auto& rows = items.lvGegenstände.rows;
+                                 return ItemCell(items.Record(rows[static_cast<std::size_t>(row)]),
+                                                 column);
+                             }};
+    list_ = new ListTable(frame,
+                          {{"Gegenstand", ItemNameColumn, Px(2000), Qt::AlignLeft},
+                           {"Preis", ItemPriceColumn, Px(600), Qt::AlignRight}},
+                          source);
+    Place(Named(list_, "lvGegenstände"), 120, 1680, 2895, 3615);
+    list_->setAccessibleName("Gegenstände der Kategorie");
+    session_.mirror.Bind([this, &items] {
+        const auto& view = items.lvGegenstände;
+        list_->setVisible(view.visible);
+        list_->setToolTip(ToToolTip(view.toolTip));
+        list_->Mirror(view.revision, ChosenPlace(items), view.sort.column, view.sort.descending);
+    });
+    connect(list_, &ListTable::rowChosen, this, [&](int row) {
+        session_.Do([&] {
+            ChooseItemRow(items, session_.platform, state.folders,
+                          items.lvGegenstände.rows[static_cast<std::size_t>(row)]);
+        });
+    });
+    connect(list_, &ListTable::headerClicked, this,
+            [&](int column) { session_.Do([&] { SortItemList(items, column); }); });
+    const auto confirmDelete = [&] {
+        session_.Do([&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
+    };
+    connect(list_, &ListTable::deletePressed, this, confirmDelete);
+
+    itemNew_ = new PictureButton(frame, "Neuen Gegenstand erstellen", "+");
+    itemDelete_ = new PictureButton(frame, "Gewählten Gegenstand löschen", "–");
+    itemSave_ = new PictureButton(frame, "Gegenstand speichern", "✓");
+    Place(Named(itemNew_, "cmdItemNeu"), 120, 5400, 375, 375);
+    Place(Named(itemDelete_, "cmdItemDelete"), 480, 5400, 375, 375);
+    Place(Named(itemSave_, "cmdItemSave"), 840, 5400, 375, 375);
+    session_.mirror.Bind(itemNew_, items.cmdItemNeu);
+    session_.mirror.Bind(itemDelete_, items.cmdItemDelete);
+    session_.mirror.Bind(itemSave_, items.cmdItemSave);
+    connect(itemNew_, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { StartNewItem(items, session_.platform); }); });
+    connect(itemDelete_, &QPushButton::clicked, this, confirmDelete);
+    connect(itemSave_, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { SaveItem(items, session_.platform, state.folders); }); });
+
+    auto* add = Place(Named(new QPushButton(">", window), "cmdItemHin"), 3240, 2160, 495, 3615);
+    add->setToolTip("Gegenstand dem Shopangebot hinzufügen");
+    add->setAccessibleName(add->toolTip());
+    session_.mirror.Bind(add, items.cmdItemHin);
+    connect(add, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { AddItemToShop(state.shop, items, session_.platform); }); });
+}
+
+void ItemEditorPane::BuildCategories(CaptionFrame* parent) {
+    auto& state = session_.state;
+    auto& items = state.items;
+    auto* frame =
+        Place(Named(new CaptionFrame(parent, Black, "Kategorien"), "Frame5"), 120, 360, 2895, 1095);
+    auto* choice = Place(Named(new ChoiceBox(frame), "cmbKategorien"), 120, 240, 2655, 315);
+    choice->setAccessibleName("Kategorie der Liste");
+    session_.mirror.Bind(choice, items.cmbKategorien);
+    connect(choice, &QComboBox::activated, this, [&](int index) {
+        session_.Do([&] { ChooseCategory(items, session_.platform, state.folders, index); });
+    });
+
+    categoryNew_ = new PictureButton(frame, "Neue Kategorie erstellen", "+");
+    categoryDelete_ = new PictureButton(frame, "Gewählte Kategorie löschen", "–");
+    print_ = new PictureButton(frame, "Gegenstandsliste drucken", "▤");
+    Place(Named(categoryNew_, "cmdKategorieNeu"), 120, 600, 375, 375);
+    Place(Named(categoryDelete_, "cmdKategorieDelete"), 480, 600, 375, 375);
+    Place(Named(print_, "cmdListeDrucken"), 840, 600, 375, 375);
+    session_.mirror.Bind(categoryNew_, items.cmdKategorieNeu);
+    session_.mirror.Bind(categoryDelete_, items.cmdKategorieDelete);
+    session_.mirror.Bind(print_, items.cmdListeDrucken);
+    connect(categoryNew_, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { NewCategory(items, session_.platform, state.folders); }); });
+    connect(categoryDelete_, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { DeleteCategory(items, session_.platform, state.folders); }); });
+    connect(print_, &QPushButton::clicked, this, [&] {
+        session_.Do([&] {
+            PrintTempDocument(state.print, session_.platform, state.folders,
+                              [&items](std::string& file) { WriteItemList(items, file); });
+        });
+    });
+}
+
+QWidget* ItemEditorPane::AddPage(const QString& caption) {
+    auto* page = new QWidget;
+    QPalette palette = page->palette();
+    palette.setColor(QPalette::Window, CaptionFrame::Grey);
+    page->setPalette(palette);
+    page->setAutoFillBackground(true);
+    tab_->addTab(page, caption);
+    return page;
+}
+
+LineField* ItemEditorPane::BuildText(QWidget* parent, std::size_t index) {
+    auto& items = session_.state.items;
+    const auto field = static_cast<ItemText>(index);
+    auto* text = new LineField(
+        parent, [field](std::string_view entered, const std::string& held, std::size_t place) {
+            return FilterItemPaste(field, entered, held, place);
+        });
+    Named(text, QString("txtItem%1").arg(index));
+    text->setAccessibleName(parent->accessibleName());
+    session_.mirror.Bind(text, items.txtItem[index]);
+    connect(text, &LineField::entered, this, [this, &items, field](const std::string& entered) {
+        session_.Do([&] { EditItemText(items, field, entered); });
+    });
+    return text;
+}
+
+void ItemEditorPane::BuildProperties() {
+    auto& items = session_.state.items;
+    QWidget* page = AddPage("Grundeigenschaften");
+    const auto frame = [page](const char* name, const QString& caption, int left, int top,
+                              int width) {
+        return Place(Named(new CaptionFrame(page, Grey, caption), name), left, top, width, 615);
+    };
+    constexpr int wide = 5955;
+    constexpr int inner = wide - 240;
+
+    name_ =
+        Place(BuildText(frame("Frame1", "Name", 105, 120, wide), NameText), 120, 210, inner, 315);
+
+    auto* category = new ChoiceBox(frame("Frame6", "Kategorie", 105, 810, wide));
+    Place(Named(category, "cmbItemKategorien"), 120, 210, inner, 315);
+    category->setAccessibleName("Kategorie des Gegenstands");
+    session_.mirror.Bind(category, items.cmbItemKategorien);
+    connect(category, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { items.cmbItemKategorien.Select(index); }); });
+
+    Place(BuildText(frame("Frame7", "Gewicht", 105, 1500, 1800), WeightText), 120, 210, 1560, 315);
+
+    auto* prices = frame("Frame8", "Preis", 2010, 1500, wide - 1905);
+    Place(BuildText(prices, PriceText), 120, 210, 1560, 315);
+    auto* unit = Place(Named(new ChoiceBox(prices), "cmbItemPreis"), 1800, 210, 2130, 315);
+    unit->setAccessibleName("Währung");
+    session_.mirror.Bind(unit, items.cmbItemPreis);
+    connect(unit, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { items.cmbItemPreis.Select(index); }); });
+
+    auto* rarity = new ChoiceBox(frame("Frame9", "Wert", 105, 2190, wide));
+    Place(Named(rarity, "cmbItemWert"), 120, 210, inner, 315);
+    rarity->setAccessibleName("Wert");
+    session_.mirror.Bind(rarity, items.cmbItemWert);
+    connect(rarity, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { ChooseItemWert(items, index); }); });
+
+    Place(BuildText(frame("Frame2", "Beschreibung", 105, 2880, wide), DescriptionText), 120, 210,
+          inner, 315);
+
+    picture_ = Place(Named(new Picture(page), "imgItem"), 105, 3630, wide, 2130);
+    picture_->setAccessibleName("Blick in einen Laden");
+}
+
+void ItemEditorPane::BuildAvailability() {
+    auto& state = session_.state;
+    auto& items = state.items;
+    QWidget* page = AddPage("Verfügbarkeit");
+    const auto list = [page](const char* frameName, const QString& caption, int left,
+                             const char* name, int height) {
+        auto* frame =
+            Place(Named(new CaptionFrame(page, Grey, caption), frameName), left, 120, 2400, 5640);
+        auto* box = Place(Named(new QListWidget(frame), name), 120, 270, 2160, height);
+        box->setAccessibleName(caption);
+        return box;
+    };
+    auto* others = list("Frame3", "Regionen", 105, "lstRegionen", 4245);
+    auto* chosen = list("Frame4", "Wird hergestellt in", 3660, "lstVerfügbar", 5220);
+    session_.mirror.Bind(others, items.lstRegionen);
+    session_.mirror.Bind(chosen, items.lstVerfügbar);
+    connect(others, &QListWidget::currentRowChanged, this, [&](int row) {
+        session_.Do([&] { SelectRegion(items, session_.platform, state.folders, row); });
+    });
+    connect(chosen, &QListWidget::currentRowChanged, this,
+            [&](int row) { session_.Do([&] { items.lstVerfügbar.Select(row); }); });
+
+    auto* name =
+        Place(Named(new QLabel(others->parentWidget()), "lblRegionen"), 120, 4560, 2160, 960);
+    name->setTextFormat(Qt::PlainText);
+    name->setWordWrap(true);
+    name->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    session_.mirror.Bind(name, items.lblRegionen);
+
+    const auto move = [&](const char* objectName, const QString& caption, const QString& meaning,
+                          int top, std::function<void()> operation) {
+        auto* button =
+            Place(Named(new QPushButton(caption, page), objectName), 2610, top, 945, 375);
+        button->setAccessibleName(meaning);
+        connect(button, &QPushButton::clicked, this,
+                [this, operation = std::move(operation)] { session_.Do(operation); });
+    };
+    move("cmdHin", ">", "Region hinzufügen", 1350, [&] { MoveRegionIn(items); });
+    move("cmdZurück", "<", "Region wegnehmen", 1800, [&] { MoveRegionOut(items); });
+    move("cmdAlleHin", ">>>>>", "Alle Regionen hinzufügen", 2700,
+         [&] { MoveAllRegionsIn(items, session_.platform, state.folders); });
+    move("cmdAlleZurück", "<<<<<", "Alle Regionen wegnehmen", 3150,
+         [&] { ReturnAllRegions(items); });
+}
+
+void ItemEditorPane::BuildNotice() {
+    auto* notice = new QLabel(
+        "Willkommen in der Tuchhalle!\n\n"
+        "Was ihr hier speichert, steht sofort in den Dateien des Ordners Data. Sichert ihr diesen "
+        "Ordner, so sichert ihr alle eure Gegenstände.\n\n"
+        "Ein Shop dagegen lebt nur, solange das Programm läuft. Exportiert oder druckt ihn, bevor "
+        "ihr das Programm schließt.\n\n"
+        "Gegenstände der Kategorien Nahkampfwaffen, Fernwaffen und Rüstungen, die ihr löscht oder "
+        "umbenennt, kommen beim nächsten Start unter ihrem alten Namen zurück, solange sie in den "
+        "Dateien des Ordners Arsenal stehen.\n\n"
+        "Alles Weitere erklärt die Hilfe hinter dem Knopf rechts oben.",
+        AddPage("Gut zu wissen"));
+    notice->setWordWrap(true);
+    notice->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    Place(notice, 300, 300, 5550, 5250);
+}
+
+void ItemEditorPane::LoadPictures() {
+    const auto& gfx = session_.state.folders.GfxFolder;
+    categoryNew_->SetPicture(LoadPicture(gfx / "new.bmp"));
+    categoryDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
+    itemNew_->SetPicture(LoadPicture(gfx / "new.bmp"));
+    itemDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
+    itemSave_->SetPicture(LoadPicture(gfx / "save.bmp"));
+    print_->SetPicture(LoadPicture(gfx / "Printfld.bmp"));
+    picture_->SetImage(LoadPicture(gfx / "shop.jpg"));
+}
+
+void ItemEditorPane::FocusName() {
+    if (session_.state.mode != Mode::ItemEditor)
+        return;
+    tab_->setCurrentIndex(0);
+    name_->setFocus();
+}
+
+} // namespace emporium::ui

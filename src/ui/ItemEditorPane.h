@@ -1,0 +1,43 @@
+// The item editor's part of the window: categories, item list, item form.
+#pragma once
+
+#include "ui/ListTable.h"
+#include "ui/Session.h"
+#include "ui/Widgets.h"
+
+#include <QTabWidget>
+
+namespace emporium::ui {
+
+class ItemEditorPane : public QObject {
+    Q_OBJECT
+
+public:
+    /// Builds the controls into the window.
+    ItemEditorPane(QWidget* window, Session& session);
+
+    /// Loads the buttons' pictures and the picture of the form.
+    void LoadPictures();
+
+    /// Puts the focus on the name of the form, if that is on screen.
+    void FocusName();
+
+private:
+    void BuildList(QWidget* window);
+    void BuildCategories(CaptionFrame* frame);
+    QWidget* AddPage(const QString& caption);
+    void BuildProperties();
+    void BuildAvailability();
+    void BuildNotice();
+    LineField* BuildText(QWidget* parent, std::size_t field);
+
+    Session& session_;
+    QTabWidget* tab_;
+    ListTable* list_ = nullptr;
+    LineField* name_ = nullptr;
+    Picture* picture_ = nullptr;
+    PictureButton *categoryNew_ = nullptr, *categoryDelete_ = nullptr, *print_ = nullptr;
+    PictureButton *itemNew_ = nullptr, *itemDelete_ = nullptr, *itemSave_ = nullptr;
+};
+
+} // namespace emporium::ui

@@ -1,0 +1,111 @@
+#include "ui/LineField.h"
+
+#include "ui/Text.h"
+
+#include <QKeyEvent>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace emporium::ui {
+
+namespace {
+
+// Where two texts differ: how much they share at the start, and at the end behind that.
+struct Difference {
+    qsizetype start;
+    qsizetype end;
+};
+
+Difference Compare(const QString& before, const QString& after) {
+    const qsizetype shorter = std::min(before.size(), after.size());
+    Difference same{0, 0};
+    while (same.start < shorter && before[same.start] == after[same.start])
+        ++same.start;
+    while (same.end < shorter - same.start &&
+           before[before.size() - 1 - same.end] == after[after.size() - 1 - same.end])
+        ++same.end;
+    return same;
+}
+
+} // namespace
+
+// A validator sees every change of the text, whatever road it takes.
+class LineFieldFilter : public QValidator {
+public:
+    explicit LineFieldFilter(LineField& field) : QValidator(&field), field_(field) {}
+
+    State validate(QString& input, int& caret) const override {
+        if (field_.showing_ || input == field_.held_)
+            return Acceptable;
+        const auto [start, end] = Compare(field_.held_, input);
+        const QString inserted = input.mid(start, input.size() - start - end);
+        const QString admitted = ToQString(field_.Admit(inserted, field_.held_, start));
+        if (admitted == inserted)
+            return Acceptable;
+        // Where nothing enters, what would have been replaced stays too.
+        input = admitted.isEmpty() ? field_.held_ : input.first(start) + admitted + input.last(end);
+        caret = static_cast<int>(start + admitted.size());
+        return Acceptable;
+    }
+
+private:
+    LineField& field_;
+};
+
+namespace {
+
+class InputGuard : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& caret) const override {
+        const QString clean = ToQString(CleanInput(input));
+        caret -= static_cast<int>(input.size() - clean.size());
+        caret = std::clamp(caret, 0, static_cast<int>(clean.size()));
+        input = clean;
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+LineField::LineField(QWidget* parent, InputFilter filter)
+    : QLineEdit(parent), filter_(std::move(filter)) {
+    setValidator(new LineFieldFilter(*this));
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& now) {
+        held_ = now;
+        if (!showing_)
+            emit entered(ToAnsi(now));
+    });
+}
+
+void LineField::Show(const std::string& shown) {
+    const QString now = ToQString(shown);
+    if (now == text())
+        return;
+    showing_ = true;
+    setText(now);
+    setCursorPosition(0); // a long text is read from its start
+    showing_ = false;
+}
+
+void LineField::keyPressEvent(QKeyEvent* event) {
+    const QString typed = event->text();
+    const qsizetype place = hasSelectedText() ? selectionStart() : cursorPosition();
+    const bool printable = !typed.isEmpty() && typed[0].isPrint();
+    if (printable && Admit(typed, held_, place).empty())
+        return; // the selection stays as well
+    QLineEdit::keyPressEvent(event);
+}
+
+std::string LineField::Admit(const QString& entered, const QString& held, qsizetype place) const {
+    const std::string clean = CleanInput(entered);
+    return filter_ ? filter_(clean, ToAnsi(held), static_cast<std::size_t>(place)) : clean;
+}
+
+void GuardInput(QLineEdit& field) {
+    field.setValidator(new InputGuard(&field));
+}
+
+} // namespace emporium::ui

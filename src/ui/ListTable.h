@@ -1,0 +1,57 @@
+// A list view in report layout over rows that the program holds; nothing is copied into the widget.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTreeView>
+
+#include <functional>
+#include <string_view>
+
+namespace emporium::ui {
+
+/// A visible column.
+struct TableColumn {
+    QString caption;
+    int column; // the program's number of it
+    int width;  // in pixels
+    Qt::Alignment alignment;
+};
+
+/// What a table shows. The functions read the program's state at every call.
+struct TableSource {
+    std::function<int()> rowCount;
+    std::function<std::string_view(int row, int column)> cell;
+};
+
+class ListTable : public QTreeView {
+    Q_OBJECT
+
+public:
+    ListTable(QWidget* parent, QList<TableColumn> columns, TableSource source);
+
+    /// Shows the rows anew if the revision is another than at the last call, and the chosen row
+    /// (-1 for none) and the sort in any case.
+    void Mirror(unsigned revision, int chosenRow, int sortColumn, bool descending);
+
+signals:
+    /// The user picks a row, also the one that is chosen already.
+    void rowChosen(int row);
+    void headerClicked(int column);
+    void deletePressed();
+    void rowDoubleClicked();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    class Model;
+
+    QList<TableColumn> columns_;
+    Model* model_;
+    unsigned revision_ = 0;
+    bool mirroring_ = false;
+};
+
+} // namespace emporium::ui

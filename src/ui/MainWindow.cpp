@@ -1,0 +1,113 @@
+#include "ui/MainWindow.h"
+
+#include "ui/Pictures.h"
+#include "ui/QtPlatform.h"
+#include "ui/Text.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QPainter>
+
+namespace emporium::ui {
+
+MainWindow::MainWindow(const std::filesystem::path& programFolder)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      dice_(SecondsSinceMidnight), controls_(new QWidget(this)),
+      browser_(Place(Named(new HtmlView(controls_), "Browser"), 120, 600, 2775, 4815)),
+      itemEditor_(new ItemEditorPane(controls_, session_)),
+      shopEditor_(new ShopEditorPane(controls_, session_)),
+      generator_(new GeneratorDialog(this, session_)),
+      itemBackground_(Named(new Picture(this), "imgTempItemEditor")),
+      shopBackground_(Named(new Picture(this), "imgTempShopEditor")) {
+    setObjectName("frmEmporiumMain");
+    setFixedSize(Px(9480), Px(6795));
+    controls_->resize(size());
+    browser_->hide();
+    itemBackground_->hide();
+    shopBackground_->hide();
+    BuildModes();
+
+    auto& platform = session_.platform;
+    platform = QtPlatform(*this, session_.mirror);
+    platform.RollDice = [this](std::int32_t n) { return dice_.RollDice(n); };
+    platform.ProcessEvents = [this] {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        return !closed_;
+    };
+    platform.Browser.SetVisible = [this](bool visible) {
+        browser_->setVisible(visible);
+        session_.mirror.Update();
+    };
+    platform.Browser.Navigate = [this](const auto& file) { browser_->Navigate(file); };
+    platform.Browser.Print = [this] { return PrintPage(*this, *browser_); };
+    platform.ShowGeneratorDialog = [this] {
+        session_.mirror.Update();
+        generator_->exec();
+    };
+    platform.FocusItemName = [this] { itemEditor_->FocusName(); };
+    connect(browser_, &HtmlView::navigateComplete, this,
+            [this] { session_.state.print.PreviewReady = true; });
+    session_.mirror.Bind([this] { MirrorWindow(); });
+    session_.Do([&] { StartUp(session_.state, session_.platform, programFolder); });
+    LoadPictures();
+}
+
+PictureButton* MainWindow::BuildButton(const char* name, int left, const QString& toolTip,
+                                       const QString& text,
+                                       const std::function<void()>& operation) {
+    auto* button = new PictureButton(controls_, toolTip, text);
+    Place(Named(button, name), left, 0, 375, 375);
+    connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
+    return button;
+}
+
+void MainWindow::BuildModes() {
+    auto& state = session_.state;
+    itemMode_ =
+        BuildButton("cmdItemEditor", 0, "ItemEditor", "I", [&state] { ShowItemEditor(state); });
+    shopMode_ =
+        BuildButton("cmdShopEditor", 360, "ShopEditor", "S", [&state] { ShowShopEditor(state); });
+    help_ = BuildButton("cmdHelp", 9120, "Hilfe", "?",
+                        [this, &state] { OpenHelp(state, session_.platform); });
+}
+
+void MainWindow::LoadPictures() {
+    const auto& gfx = session_.state.folders.GfxFolder;
+    itemMode_->SetPicture(LoadPicture(gfx / "OrvanEmporium3Klein.bmp"));
+    shopMode_->SetPicture(LoadPicture(gfx / "shop.bmp"));
+    help_->SetPicture(LoadPicture(gfx / "helpklein.bmp"));
+    itemEditor_->LoadPictures();
+    shopEditor_->LoadPictures();
+    itemBackground_->SetImage(LoadPicture(gfx / "OrvanEmporium3ItemEditor.jpg"));
+    shopBackground_->SetImage(LoadPicture(gfx / "OrvanEmporium3ShopEditor.jpg"));
+}
+
+void MainWindow::MirrorWindow() {
+    setWindowTitle(ToQString(session_.state.caption));
+    controls_->setEnabled(!session_.state.print.busy);
+    if (session_.state.mode != backgroundMode_)
+        update();
+}
+
+void MainWindow::paintEvent(QPaintEvent*) {
+    const Mode mode = session_.state.mode;
+    const QImage& image = (mode == Mode::ItemEditor ? itemBackground_ : shopBackground_)->Image();
+    QPainter painter(this);
+    if (image.isNull()) {
+        painter.fillRect(rect(), QColor(60, 45, 32));
+    } else {
+        const bool fits = background_.devicePixelRatio() == devicePixelRatioF();
+        if (background_.isNull() || mode != backgroundMode_ || !fits)
+            background_ = FitPicture(image, size(), *this);
+        painter.drawPixmap(0, 0, background_);
+    }
+    backgroundMode_ = mode;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    closed_ = true;
+    event->accept();
+}
+
+} // namespace emporium::ui

@@ -1,0 +1,49 @@
+// The program's window: two modes over one layout, and the platform that the operations ask.
+#pragma once
+
+#include "ui/GeneratorDialog.h"
+#include "ui/HtmlView.h"
+#include "ui/ItemEditorPane.h"
+#include "ui/Session.h"
+#include "ui/ShopEditorPane.h"
+
+#include <QPixmap>
+
+#include <filesystem>
+
+namespace emporium::ui {
+
+class MainWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Builds the window and starts the program on the folders beside `programFolder`.
+    explicit MainWindow(const std::filesystem::path& programFolder);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    PictureButton* BuildButton(const char* name, int left, const QString& toolTip,
+                               const QString& text, const std::function<void()>& operation);
+    void BuildModes();
+    void LoadPictures();
+    void MirrorWindow();
+
+    Session session_;
+    Dice dice_;
+    bool closed_ = false;
+
+    QWidget* controls_; // everything that takes input
+    HtmlView* browser_;
+    ItemEditorPane* itemEditor_;
+    ShopEditorPane* shopEditor_;
+    GeneratorDialog* generator_;
+    PictureButton *itemMode_ = nullptr, *shopMode_ = nullptr, *help_ = nullptr;
+    Picture *itemBackground_, *shopBackground_;
+    QPixmap background_; // of the mode that was painted last
+    Mode backgroundMode_ = Mode::ItemEditor;
+};
+
+} // namespace emporium::ui

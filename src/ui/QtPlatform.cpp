@@ -1,0 +1,126 @@
+#include "ui/QtPlatform.h"
+
+#include "base/Variablen.h"
+#include "ui/LineField.h"
+#include "ui/Text.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QTime>
+#include <QUrl>
+
+namespace emporium::ui {
+
+namespace {
+
+// Boxes belong to the dialog that is open, or else to the window.
+QWidget* Owner(QWidget& window) {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : &window;
+}
+
+bool AskYesNo(QWidget& window, const YesNoBox& box) {
+    QMessageBox question(Owner(window));
+    question.setTextFormat(Qt::PlainText);
+    question.setText(ToQString(box.text));
+    question.setIcon(box.icon == BoxIcon::Warning ? QMessageBox::Warning : QMessageBox::Question);
+    question.setWindowTitle(box.caption.empty() ? QApplication::applicationDisplayName()
+                                                : ToQString(box.caption));
+    question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    question.setDefaultButton(QMessageBox::Yes);
+    return question.exec() == QMessageBox::Yes;
+}
+
+void ShowMessage(QWidget& window, std::string_view text) {
+    QMessageBox message(Owner(window));
+    message.setTextFormat(Qt::PlainText);
+    message.setText(ToQString(text));
+    message.setIcon(QMessageBox::Warning);
+    message.setWindowTitle(ToQString(ProgramTitle));
+    message.exec();
+}
+
+std::string AskText(QWidget& window, std::string_view prompt) {
+    QInputDialog dialog(Owner(window));
+    dialog.setWindowTitle(ToQString(ProgramTitle));
+    dialog.setLabelText(ToQString(prompt));
+    dialog.setInputMode(QInputDialog::TextInput);
+    if (auto* field = dialog.findChild<QLineEdit*>())
+        GuardInput(*field);
+    return dialog.exec() == QDialog::Accepted ? CleanInput(dialog.textValue()) : std::string();
+}
+
+// The filter "caption|pattern" as Qt writes it; the caption holds the pattern already.
+QString ToQtFilter(std::string_view filter) {
+    return ToQString(filter.substr(0, filter.find('|')));
+}
+
+std::filesystem::path ShowSave(QWidget& window, const std::filesystem::path& folder,
+                               std::string_view filter) {
+    QFileDialog dialog(Owner(window), "Speichern unter", PathText(folder), ToQtFilter(filter));
+    dialog.setObjectName("CD");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return PathFrom(dialog.selectedFiles().constFirst());
+}
+
+void SetWaitPointer(bool waiting) {
+    if (waiting)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+} // namespace
+
+Platform QtPlatform(QWidget& window, const Mirror& mirror) {
+    Platform platform;
+    platform.files = SystemFiles();
+    platform.AskYesNo = [&](const YesNoBox& box) {
+        mirror.Update();
+        return AskYesNo(window, box);
+    };
+    platform.ShowMessage = [&](std::string_view text) {
+        mirror.Update();
+        ShowMessage(window, text);
+    };
+    platform.AskText = [&](std::string_view prompt) {
+        mirror.Update();
+        return AskText(window, prompt);
+    };
+    platform.ShowSave = [&](const std::filesystem::path& folder, std::string_view filter) {
+        mirror.Update();
+        return ShowSave(window, folder, filter);
+    };
+    platform.OpenInViewer = [](const std::filesystem::path& file) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(PathText(file)));
+    };
+    platform.SetWaitPointer = SetWaitPointer;
+    return platform;
+}
+
+bool PrintPage(QWidget& window, HtmlView& page) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setDocName(page.documentTitle());
+    QPrintDialog dialog(&printer, &window);
+    dialog.setObjectName("PrintDialog");
+    if (dialog.exec() != QDialog::Accepted)
+        return true;
+    SetWaitPointer(true);
+    const bool printed = page.PrintTo(printer);
+    SetWaitPointer(false);
+    return printed;
+}
+
+float SecondsSinceMidnight() {
+    return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0F;
+}
+
+} // namespace emporium::ui

@@ -1,0 +1,22 @@
+// The platform services that Qt gives: boxes, dialogs, the viewer, the printer, the clock.
+#pragma once
+
+#include "base/Platform.h"
+#include "ui/HtmlView.h"
+#include "ui/Mirror.h"
+
+#include <QWidget>
+
+namespace emporium::ui {
+
+/// The services that need nothing of the window but its being there: files, boxes, save dialog,
+/// viewer, wait pointer. Before a box opens, the windows show what has come about so far.
+Platform QtPlatform(QWidget& window, const Mirror& mirror);
+
+/// Opens the print dialog for the loaded page and prints it. False if printing failed.
+bool PrintPage(QWidget& window, HtmlView& page);
+
+/// The clock of the dice: seconds since midnight with their fraction.
+float SecondsSinceMidnight();
+
+} // namespace emporium::ui

@@ -1,0 +1,156 @@
+#include "ui/ShopEditorPane.h"
+
+#include "documents/ShopDocument.h"
+#include "shopeditor/ShopList.h"
+#include "shopeditor/ShopPricing.h"
+#include "ui/Pictures.h"
+#include "ui/Text.h"
+
+namespace emporium::ui {
+
+namespace {
+
+constexpr int FieldLeft = 7080;
+constexpr int FieldWidth = 2415;
+
+} // namespace
+
+ShopEditorPane::ShopEditorPane(QWidget* window, Session& session)
+    : QObject(window), window_(window), session_(session) {
+    auto& state = session_.state;
+    auto& shop = state.shop;
+    BuildList();
+    BuildText(BuildFrame(1, "Name des Shops", FieldLeft, 360, FieldWidth, 615), "txtName",
+              shop.txtName);
+    BuildText(BuildFrame(2, "Shopart", FieldLeft, 1320, FieldWidth, 615), "txtShopart",
+              shop.txtShopart);
+    BuildOwner();
+
+    auto* region = BuildChoice(BuildFrame(4, "Region", FieldLeft, 3600, FieldWidth, 855),
+                               "cmbShopRegion", shop.cmbShopRegion);
+    region->move(region->x(), Px(330));
+    connect(region, &QComboBox::activated, this, [&](int index) {
+        session_.Do([&] { ChooseShopRegion(shop, session_.platform, state.folders, index); });
+    });
+    auto* prices = BuildChoice(BuildFrame(5, "Preise", FieldLeft, 4800, FieldWidth, 615),
+                               "cmbShopPreise", shop.cmbShopPreise);
+    connect(prices, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { ChoosePriceLevel(shop, index); }); });
+    auto* quality = BuildChoice(BuildFrame(6, "Qualität", FieldLeft, 5760, FieldWidth, 615),
+                                "cmbShopQualität", shop.cmbShopQualität);
+    connect(quality, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { shop.cmbShopQualität.Select(index); }); });
+}
+
+CaptionFrame* ShopEditorPane::BuildFrame(int index, const QString& caption, int left, int top,
+                                         int width, int height) {
+    auto* frame = new CaptionFrame(window_, CaptionFrame::Look::Black, caption);
+    Place(Named(frame, QString("frmShop%1").arg(index)), left, top, width, height);
+    session_.mirror.Bind(frame, [this] { return session_.state.mode == Mode::ShopEditor; });
+    return frame;
+}
+
+void ShopEditorPane::BuildList() {
+    auto& shop = session_.state.shop;
+    auto* frame = BuildFrame(0, "Waren im Shop", 3840, 480, 3135, 5895);
+    const TableSource source{[&shop] { return shop.ShopCount(); },
+                             [&shop](int row, int column) {
+                                 return ShopCell(*shop.lvLaden.rows[static_cast<std::size_t>(row)],
+                                                 column);
+                             }};
+    list_ = new ListTable(frame,
+                          {{"Ware", ShopTextColumn, Px(1875), Qt::AlignLeft},
+                           {"Preis", ShopPriceColumn, Px(725), Qt::AlignRight}},
+                          source);
+    Place(Named(list_, "lvLaden"), 120, 360, 2895, 4935);
+    list_->setAccessibleName("Waren im Shop");
+    session_.mirror.Bind([this, &shop] {
+        const auto& view = shop.lvLaden;
+        list_->setToolTip(ToToolTip(view.toolTip));
+        list_->Mirror(view.revision, view.current, view.sort.column, view.sort.descending);
+    });
+    const auto& platform = session_.platform;
+    connect(list_, &ListTable::rowChosen, this,
+            [&](int row) { session_.Do([&] { ChooseShopRow(shop, row); }); });
+    connect(list_, &ListTable::headerClicked, this,
+            [&](int column) { session_.Do([&] { SortShopList(shop, column); }); });
+    connect(list_, &ListTable::deletePressed, this,
+            [&] { session_.Do([&] { RemoveShopRow(shop); }); });
+    connect(list_, &ListTable::rowDoubleClicked, this,
+            [&] { session_.Do([&] { SetShopRowPrice(shop, platform); }); });
+    BuildButtons(frame);
+}
+
+void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
+    auto& state = session_.state;
+    auto& shop = state.shop;
+    const auto& platform = session_.platform;
+    const auto build = [&](const char* name, const QString& toolTip, const QString& text, int left,
+                           const std::function<void()>& operation) {
+        auto* button = new PictureButton(frame, toolTip, text);
+        Place(Named(button, name), left, 5400, 375, 375);
+        connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
+        return button;
+    };
+    quantity_ = build("cmdShopAnzahl", "Anzahl bearbeiten", "x", 120,
+                      [&] { SetShopRowQuantity(shop, platform); });
+    remove_ = build("cmdShopDelete", "Gewählten Gegenstand löschen", "–", 480,
+                    [&] { RemoveShopRow(shop); });
+    print_ = build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
+        PrintTempDocument(state.print, platform, state.folders,
+                          [&shop](std::string& file) { WriteShopPrint(shop, file); });
+    });
+    export_ = build("cmdShopExport", "HTML-Export", "H", 2280,
+                    [&] { ExportShop(shop, platform, state.folders); });
+    generator_ = build("cmdShopGenerator", "Shopgenerator", "W", 2640,
+                       [&] { OpenGenerator(state.generator, shop, platform, state.folders); });
+    session_.mirror.Bind(quantity_, shop.cmdShopAnzahl);
+    session_.mirror.Bind(remove_, shop.cmdShopDelete);
+}
+
+void ShopEditorPane::BuildOwner() {
+    auto& state = session_.state;
+    auto& shop = state.shop;
+    auto* frame = BuildFrame(3, "Besitzer", FieldLeft, 2280, FieldWidth, 1095);
+    auto* name = BuildText(frame, "txtBesitzerName", shop.txtBesitzerName);
+    name->resize(Px(1785), name->height());
+    auto* draw = Place(Named(new QPushButton("G", frame), "cmdGenName"), 1965, 240, 330, 330);
+    draw->setToolTip("Zufallsnamen generieren");
+    draw->setAccessibleName(draw->toolTip());
+    session_.mirror.Bind(draw, shop.cmdGenName);
+    connect(draw, &QPushButton::clicked, this,
+            [&] { session_.Do([&] { DrawOwnerName(shop, session_.platform, state.folders); }); });
+    auto* race = BuildChoice(frame, "cmbRasse", shop.cmbRasse);
+    race->move(race->x(), Px(660));
+    connect(race, &QComboBox::activated, this,
+            [&](int index) { session_.Do([&] { ChooseRace(shop, index); }); });
+}
+
+LineField* ShopEditorPane::BuildText(CaptionFrame* frame, const char* name, TextField& state) {
+    auto* text = Place(Named(new LineField(frame), name), 120, 240, FieldWidth - 240, 315);
+    text->setAccessibleName(frame->accessibleName());
+    session_.mirror.Bind(text, state);
+    connect(text, &LineField::entered, this, [this, &state](const std::string& entered) {
+        session_.Do([&] { state.text = entered; });
+    });
+    return text;
+}
+
+ChoiceBox* ShopEditorPane::BuildChoice(CaptionFrame* frame, const char* name,
+                                       const ChoiceList& state) {
+    auto* choice = Place(Named(new ChoiceBox(frame), name), 120, 240, FieldWidth - 240, 315);
+    choice->setAccessibleName(frame->accessibleName());
+    session_.mirror.Bind(choice, state);
+    return choice;
+}
+
+void ShopEditorPane::LoadPictures() {
+    const auto& gfx = session_.state.folders.GfxFolder;
+    print_->SetPicture(LoadPicture(gfx / "print.bmp"));
+    export_->SetPicture(LoadPicture(gfx / "html.bmp"));
+    generator_->SetPicture(LoadPicture(gfx / "shop.bmp"));
+    remove_->SetPicture(LoadPicture(gfx / "delete.bmp"));
+    quantity_->SetPicture(LoadPicture(gfx / "zahl.ico"));
+}
+
+} // namespace emporium::ui

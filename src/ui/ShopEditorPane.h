@@ -1,0 +1,36 @@
+// The shop editor's part of the window: the wares and the fields of the shop.
+#pragma once
+
+#include "ui/ListTable.h"
+#include "ui/Session.h"
+#include "ui/Widgets.h"
+
+namespace emporium::ui {
+
+class ShopEditorPane : public QObject {
+    Q_OBJECT
+
+public:
+    /// Builds the controls into the window.
+    ShopEditorPane(QWidget* window, Session& session);
+
+    /// Loads the buttons' pictures.
+    void LoadPictures();
+
+private:
+    CaptionFrame* BuildFrame(int index, const QString& caption, int left, int top, int width,
+                             int height);
+    void BuildList();
+    void BuildButtons(CaptionFrame* frame);
+    void BuildOwner();
+    LineField* BuildText(CaptionFrame* frame, const char* name, TextField& state);
+    ChoiceBox* BuildChoice(CaptionFrame* frame, const char* name, const ChoiceList& state);
+
+    QWidget* window_;
+    Session& session_;
+    ListTable* list_ = nullptr;
+    PictureButton *quantity_ = nullptr, *remove_ = nullptr, *print_ = nullptr, *export_ = nullptr,
+                  *generator_ = nullptr;
+};
+
+} // namespace emporium::ui

@@ -1,0 +1,27 @@
+// Where the window's texts become bytes of the code page, and back.
+#pragma once
+
+#include <QString>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace emporium::ui {
+
+QString ToQString(std::string_view text);
+
+/// A text that the window shows, as it is.
+std::string ToAnsi(const QString& text);
+
+/// What of an entered text may reach the program: composed, without line ends, control characters
+/// and characters that the code page lacks.
+std::string CleanInput(const QString& text);
+
+/// For a tool tip, which takes a text for HTML when it looks like it.
+QString ToToolTip(std::string_view text);
+
+QString PathText(const std::filesystem::path& path);
+std::filesystem::path PathFrom(const QString& path);
+
+} // namespace emporium::ui

@@ -1,0 +1,114 @@
+#include "ui/Widgets.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleOptionButton>
+#include <QWheelEvent>
+
+namespace emporium::ui {
+
+namespace {
+
+constexpr int CaptionIndent = 8;
+constexpr int CaptionMargin = 3;
+
+} // namespace
+
+QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget) {
+    const qreal scale = widget.devicePixelRatioF();
+    const QSize pixels = (QSizeF(size) * scale).toSize();
+    QImage fitted = image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    fitted = fitted.copy((fitted.width() - pixels.width()) / 2,
+                         (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+    QPixmap pixmap = QPixmap::fromImage(fitted);
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+CaptionFrame::CaptionFrame(QWidget* parent, Look look, const QString& caption)
+    : QWidget(parent), look_(look), caption_(caption) {
+    setAccessibleName(caption);
+}
+
+bool CaptionFrame::CaptionFits() const {
+    return fontMetrics().horizontalAdvance(caption_) <= width() - 2 * CaptionIndent;
+}
+
+void CaptionFrame::paintEvent(QPaintEvent*) {
+    const bool black = look_ == Look::Black;
+    const QColor ground = black ? QColor(Qt::black) : Grey;
+    QPainter painter(this);
+    painter.fillRect(rect(), ground);
+
+    const QFontMetrics metrics = fontMetrics();
+    const int edge = metrics.height() / 2;
+    painter.setPen(black ? QColor(120, 120, 120) : QColor(110, 110, 110));
+    painter.drawRoundedRect(QRectF(2.5, edge + 0.5, width() - 5, height() - edge - 3), 3, 3);
+
+    const QRect caption(CaptionIndent, 0, metrics.horizontalAdvance(caption_), metrics.height());
+    painter.fillRect(caption.adjusted(-CaptionMargin, 0, CaptionMargin, 0), ground);
+    painter.setPen(black ? Qt::white : Qt::black);
+    painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter, caption_);
+}
+
+PictureButton::PictureButton(QWidget* parent, const QString& toolTip,
+                             const QString& textWithoutPicture)
+    : QPushButton(textWithoutPicture, parent) {
+    setToolTip(toolTip);
+    setAccessibleName(toolTip);
+    setAutoDefault(false);
+}
+
+void PictureButton::SetPicture(const QImage& picture) {
+    picture_ = picture;
+    update();
+}
+
+void PictureButton::paintEvent(QPaintEvent* event) {
+    if (picture_.isNull()) {
+        QPushButton::paintEvent(event);
+        return;
+    }
+    constexpr qreal faded = 0.35;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(hasFocus() ? QColor(0, 90, 158) : QColor(90, 90, 90));
+    painter.setBrush(QColor(240, 240, 240));
+    painter.drawRoundedRect(outline, 3, 3);
+    const int shift = isDown() ? 1 : 0;
+    painter.setOpacity(isEnabled() ? 1.0 : faded);
+    painter.drawPixmap(2 + shift, 2 + shift, FitPicture(picture_, size() - QSize(4, 4), *this));
+    painter.setOpacity(1.0);
+    if (isEnabled() && underMouse())
+        painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor(255, 220, 120, 60));
+}
+
+void Picture::SetImage(const QImage& image) {
+    image_ = image;
+    update();
+}
+
+void Picture::paintEvent(QPaintEvent*) {
+    if (!image_.isNull())
+        QPainter(this).drawPixmap(0, 0, FitPicture(image_, size(), *this));
+}
+
+ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(20);
+}
+
+void ChoiceBox::showPopup() {
+    // Wide enough for the longest entry, however narrow the list itself is.
+    const int margin = 12 + view()->verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + margin);
+    QComboBox::showPopup();
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+} // namespace emporium::ui

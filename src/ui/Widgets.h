@@ -1,0 +1,88 @@
+// The window's own kinds of controls: frames with a caption, picture buttons and drop-down lists.
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QImage>
+#include <QPushButton>
+
+namespace emporium::ui {
+
+/// Twips to pixels at scale factor 1.
+constexpr int Px(int twips) {
+    return twips / 15;
+}
+
+/// An image for a place of that size, sharp at the widget's scale. Fills the place, cut at the
+/// edges if the proportions differ.
+QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget);
+
+/// A frame whose caption stands in its upper edge.
+class CaptionFrame : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Look { Black, Grey };
+
+    static constexpr QColor Grey{192, 192, 192};
+
+    CaptionFrame(QWidget* parent, Look look, const QString& caption);
+
+    /// True if the caption fits into the edge.
+    bool CaptionFits() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Look look_;
+    QString caption_;
+};
+
+/// A square button with a picture and a tool tip. Without a picture it shows a short text.
+class PictureButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    PictureButton(QWidget* parent, const QString& toolTip, const QString& textWithoutPicture);
+
+    void SetPicture(const QImage& picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage picture_;
+};
+
+/// An image that fills its place.
+class Picture : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    void SetImage(const QImage& image);
+    const QImage& Image() const { return image_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage image_;
+};
+
+/// A drop-down list without text entry. The wheel changes nothing while it is closed.
+class ChoiceBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit ChoiceBox(QWidget* parent);
+
+    void showPopup() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+} // namespace emporium::ui
