@@ -4,6 +4,7 @@
 #include "names/GenNameSub.h"
 #include "shopeditor/ShopList.h"
 
+#include <algorithm>
 #include <array>
 
 namespace emporium {
@@ -24,9 +25,9 @@ constexpr std::array<PriceLevel, 5> PriceLevels = {{{"Sehr billig", 0.7},
 } // namespace
 
 std::vector<std::string_view> PriceLevelNames() {
-    std::vector<std::string_view> names;
-    for (const PriceLevel& level : PriceLevels)
-        names.push_back(level.name);
+    std::vector<std::string_view> names(PriceLevels.size());
+    std::transform(PriceLevels.begin(), PriceLevels.end(), names.begin(),
+                   [](const PriceLevel& level) { return level.name; });
     return names;
 }
 

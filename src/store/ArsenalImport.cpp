@@ -59,6 +59,7 @@ bool CanBeItem(const std::vector<std::string_view>& lines, const SourceForm& for
 std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm& form,
                                    const CategoryFile& category) {
     std::unordered_set<std::string_view> present;
+    present.reserve(category.records.size());
     for (const ItemRecord& record : category.records)
         present.insert(ItemName(record));
     std::vector<ItemRecord> added;

@@ -3,14 +3,18 @@
 #include "base/FileLayer.h"
 #include "ui/Text.h"
 
-#include <QDateTime>
-#include <QFileInfo>
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
 #include <QTextDocument>
 #include <QTimer>
 
 namespace emporium::ui {
 
 namespace {
+
+// Text and pictures are measured at this resolution, on the screen and, scaled, on paper.
+constexpr double LayoutDpi = 96;
+constexpr double MarginInches = 2 / 2.54;
 
 // Qt's rich text drops "</BR>" and lets a line end join a heading with what follows; a browser
 // reads the first as a break and the second as nothing.
@@ -20,38 +24,71 @@ QString AsBrowserReads(const std::string& bytes) {
     return page.replace("</BR>", "<br>");
 }
 
-bool FileWasPrinted(const QString& file, const QDateTime& since) {
-    const QFileInfo info(file);
-    return info.exists() && info.size() > 0 && info.lastModified() >= since;
+// A document that fetches nothing that its text names.
+class PageDocument : public QTextDocument {
+public:
+    explicit PageDocument(QObject* parent = nullptr) : QTextDocument(parent) {
+        setUndoRedoEnabled(false);
+        setDefaultFont(QFont({"Times New Roman", "Liberation Serif", "Serif"}, 12));
+    }
+
+protected:
+    QVariant loadResource(int, const QUrl&) override { return {}; }
+};
+
+void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
+    const QSizeF size = document.pageSize();
+    const QRectF page(0, (number - 1) * size.height(), size.width(), size.height());
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = page;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    painter.save();
+    painter.translate(0, -page.top());
+    painter.setClipRect(page);
+    document.documentLayout()->draw(&painter, context);
+    painter.setFont(document.defaultFont());
+    const double margin = document.documentMargin();
+    painter.drawText(page.adjusted(margin, 0, -margin, -margin / 2),
+                     Qt::AlignRight | Qt::AlignBottom, QString::number(number));
+    painter.restore();
 }
 
 } // namespace
 
 HtmlView::HtmlView(QWidget* parent) : QTextBrowser(parent) {
+    setDocument(new PageDocument(this));
     setOpenLinks(false);
-    document()->setDefaultFont(QFont({"Times New Roman", "Liberation Serif", "Serif"}, 12));
 }
 
 void HtmlView::Navigate(const std::filesystem::path& file) {
     const FileText text = SystemFiles().read(file);
     if (!text.IsWhole())
         return;
-    setHtml(AsBrowserReads(text.bytes));
+    page_ = AsBrowserReads(text.bytes);
+    setHtml(page_);
     QTimer::singleShot(0, this, &HtmlView::navigateComplete);
 }
 
-bool HtmlView::PrintTo(QPrinter& printer) {
-    // File times may be coarser than the clock.
-    const QDateTime start = QDateTime::currentDateTime().addSecs(-2);
-    document()->print(&printer);
-    const auto state = printer.printerState();
-    if (state == QPrinter::Error || state == QPrinter::Aborted)
+bool HtmlView::PrintTo(QPrinter& printer) const {
+    QPainter painter;
+    if (!painter.begin(&printer))
         return false;
-    return printer.outputFileName().isEmpty() || FileWasPrinted(printer.outputFileName(), start);
-}
-
-QVariant HtmlView::loadResource(int, const QUrl&) {
-    return {};
+    const double scale = printer.logicalDpiX() / LayoutDpi;
+    painter.scale(scale, scale);
+    // The size is set before the text, so that the text is laid out once.
+    PageDocument document;
+    document.setUseDesignMetrics(true);
+    document.setDocumentMargin(MarginInches * LayoutDpi);
+    document.setPageSize(QSizeF(printer.width(), printer.height()) / scale);
+    document.setHtml(page_);
+    const int count = document.pageCount();
+    for (int number = 1; number <= count; ++number) {
+        DrawPage(painter, document, number);
+        if (number < count && !printer.newPage())
+            return false;
+    }
+    const auto state = printer.printerState();
+    return painter.end() && state != QPrinter::Error && state != QPrinter::Aborted;
 }
 
 } // namespace emporium::ui

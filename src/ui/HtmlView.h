@@ -19,13 +19,15 @@ public:
     /// can't be read is never reported.
     void Navigate(const std::filesystem::path& file);
 
-    /// Prints the page. False if the printer or the file that it prints to failed.
-    bool PrintTo(QPrinter& printer);
-
-    QVariant loadResource(int type, const QUrl& name) override;
+    /// Prints the page as text, with page numbers. False if the printer, or the file that it
+    /// prints to, failed.
+    bool PrintTo(QPrinter& printer) const;
 
 signals:
     void navigateComplete();
+
+private:
+    QString page_;
 };
 
 } // namespace emporium::ui

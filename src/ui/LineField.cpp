@@ -93,7 +93,10 @@ void LineField::Show(const std::string& shown) {
 void LineField::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
     const qsizetype place = hasSelectedText() ? selectionStart() : cursorPosition();
-    const bool printable = !typed.isEmpty() && typed[0].isPrint();
+    // With Ctrl alone a key is a command; with Alt as well it is the third character of a key.
+    const auto modifiers = event->modifiers();
+    const bool command = (modifiers & Qt::ControlModifier) && !(modifiers & Qt::AltModifier);
+    const bool printable = !command && !typed.isEmpty() && typed[0].isPrint();
     if (printable && Admit(typed, held_, place).empty())
         return; // the selection stays as well
     QLineEdit::keyPressEvent(event);
