@@ -1,0 +1,74 @@
+// An invented world of any size for the benchmarks, in a program folder of its own.
+#pragma once
+
+#include "base/Platform.h"
+#include "base/Variablen.h"
+#include "regions/Availability.h"
+#include "store/CategoryFiles.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace emporium::bench {
+
+inline std::string CategoryName(int number) {
+    return "Kategorie" + std::to_string(number);
+}
+
+class World {
+public:
+    /// `items` records, spread evenly over the categories.
+    World(int items, int categories) {
+        std::string pattern = (std::filesystem::temp_directory_path() / "benchXXXXXX").string();
+        root = ::mkdtemp(pattern.data());
+        folders = InitFolders(root);
+        std::filesystem::create_directories(folders.EmporiumFolder());
+        std::filesystem::create_directories(folders.TempFolder);
+        std::vector<std::string> names, texts(static_cast<std::size_t>(categories));
+        for (int i = 0; i < items; ++i)
+            AppendRecord(texts[static_cast<std::size_t>(i % categories)], Record(i));
+        std::string config = "[Alles]\r\nWareCount=" + std::to_string(categories) + "\r\n";
+        for (int c = 0; c < categories; ++c) {
+            names.push_back(CategoryName(c));
+            Write(names.back() + ".dat", texts[static_cast<std::size_t>(c)]);
+            config += "Ware" + std::to_string(c + 1) + "=" + names.back() + "\r\n";
+        }
+        Write("ItemKategorien.dat", CategoryListText(names));
+        Write("ShopgeneratorShops.dat", "Alles\r\n");
+        Write("ShopgeneratorConfig.dat", config);
+        platform.files = SystemFiles();
+        platform.ShowMessage = [](std::string_view) {};
+        platform.SetWaitPointer = [](bool) {};
+    }
+
+    ~World() {
+        std::error_code ignored;
+        std::filesystem::remove_all(root, ignored);
+    }
+
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+
+    static ItemRecord Record(int number) {
+        static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",
+                                                         "NO|"};
+        const std::size_t mixed = static_cast<std::size_t>(number) * 2654435761U % 100003U;
+        return {"Gegenstand " + std::to_string(mixed) + std::to_string(1 + number % 5),
+                std::to_string(number % 300), std::to_string(1 + mixed % 900) + "DSHP"[number % 4],
+                "Ein Ding, das ein Händler auf den Tisch legt.", regions[mixed % 4]};
+    }
+
+    std::filesystem::path root;
+    Folders folders;
+    Platform platform;
+
+private:
+    void Write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(folders.EmporiumFolder() / name, std::ios::binary) << bytes;
+    }
+};
+
+} // namespace emporium::bench
