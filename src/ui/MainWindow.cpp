@@ -53,6 +53,13 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     LoadPictures();
 }
 
+// The controls show the session's state, so they go before it.
+MainWindow::~MainWindow() {
+    session_.mirror = Mirror();
+    delete generator_;
+    delete controls_;
+}
+
 PictureButton* MainWindow::BuildButton(const char* name, int left, const QString& toolTip,
                                        const QString& text,
                                        const std::function<void()>& operation) {

@@ -19,6 +19,7 @@ class MainWindow : public QWidget {
 public:
     /// Builds the window and starts the program on the folders beside `programFolder`.
     explicit MainWindow(const std::filesystem::path& programFolder);
+    ~MainWindow() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
