@@ -1,0 +1,147 @@
+#include "base/FileWriting.h"
+#include "base/Journal.h"
+#include "support/FaultyFiles.h"
+#include "support/ProgramFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+
+namespace emporium::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Permissions and contents by file name.
+using State = std::map<std::string, std::string>;
+using Changes = std::map<std::string, std::optional<std::string>>;
+
+const std::vector<Changes> AllChanges = {
+    {{"a.dat", std::string(5000, 'n')}},
+    {{"neu.dat", "frisch"}},
+    {{"a.dat", std::nullopt}},
+    {{"a.dat", "neu a"}, {"b.dat", ""}},
+    {{"a.dat", std::nullopt}, {"b.dat", "neu b"}},
+    {{"a.dat", std::nullopt}, {"b.dat", "neu b"}, {"neu.dat", "frisch"}}};
+
+struct Disk {
+    Disk() {
+        for (const std::string name : {"a.dat", "b.dat", "c.dat"})
+            program.Write("Emporium/" + name, "alt " + name);
+        fs::permissions(folder / "a.dat", fs::perms::owner_read | fs::perms::owner_write);
+    }
+
+    State Look() const {
+        State state;
+        for (const auto& entry : fs::directory_iterator(folder))
+            state[entry.path().filename().string()] =
+                std::to_string(static_cast<unsigned>(entry.status().permissions())) + " " +
+                SystemFiles().read(entry.path()).bytes;
+        return state;
+    }
+
+    State With(const Changes& changes) const {
+        State state = Look();
+        for (const auto& [name, contents] : changes) {
+            const std::string& before = state[state.contains(name) ? name : "c.dat"];
+            const std::string mode = before.substr(0, before.find(' ') + 1);
+            if (contents)
+                state[name] = mode + *contents;
+            else
+                state.erase(name);
+        }
+        return state;
+    }
+
+    // Nothing if the program was killed, otherwise whether it could write.
+    std::optional<bool> Write(const Changes& changes, const FileLayer& files) const {
+        std::vector<FileChange> list;
+        for (const auto& [name, contents] : changes)
+            list.push_back({folder / name, contents});
+        try {
+            return !WriteFiles(files, folder, list);
+        } catch (const KilledHere&) {
+            return std::nullopt;
+        }
+    }
+
+    // The next start, which may itself be killed, each time an operation later, until it is
+    // through.
+    State Finish() const {
+        for (int n = 1;; ++n) {
+            FaultyFiles faulty(Fault::Killed, n);
+            try {
+                EXPECT_FALSE(FinishInterruptedWrites(faulty.files, folder));
+                return Look();
+            } catch (const KilledHere&) {
+            }
+        }
+    }
+
+    ProgramFolder program;
+    fs::path folder = program.folders.EmporiumFolder();
+};
+
+// False once there is no n-th operation.
+bool TryFault(const Changes& changes, Fault fault, int n) {
+    SCOPED_TRACE(testing::PrintToString(changes) + ", operation " + std::to_string(n));
+    const Disk disk;
+    const State before = disk.Look();
+    const State wanted = disk.With(changes);
+    FaultyFiles faulty(fault, n);
+    const auto written = disk.Write(changes, faulty.files);
+    const bool undone = written == false && fault == Fault::Once;
+    EXPECT_TRUE(!undone || disk.Look() == before);
+    const State finished = disk.Finish();
+    EXPECT_TRUE(finished == wanted || (written != true && finished == before))
+        << testing::PrintToString(finished);
+    EXPECT_EQ(disk.Finish(), finished);
+    return faulty.HasFired();
+}
+
+TEST(InterruptedWrites, WhicheverOperationBreaksAllFilesAreOldOrAllAreNew) {
+    for (const Fault fault : {Fault::Once, Fault::Lasting, Fault::Killed})
+        for (const Changes& changes : AllChanges)
+            for (int n = 1; TryFault(changes, fault, n);)
+                ++n;
+}
+
+TEST(InterruptedWrites, WhatLiesBehindLinksIsFinishedToo) {
+    int finishedNew = 0;
+    bool killed = true;
+    for (int n = 1; killed; ++n) {
+        const Disk disk;
+        const ProgramFolder elsewhere;
+        const fs::path target = elsewhere.root / "ziel.dat";
+        fs::rename(disk.folder, elsewhere.root / "Emporium");
+        fs::create_directory_symlink(elsewhere.root / "Emporium", disk.folder);
+        std::ofstream(target) << "alt";
+        fs::create_symlink(target, disk.folder / "link.dat");
+        FaultyFiles faulty(Fault::Killed, n);
+        killed = !disk.Write({{"a.dat", "neu a"}, {"link.dat", "neu"}}, faulty.files);
+        disk.Finish();
+        const bool isNew = disk.program.Read("Emporium/a.dat") == "neu a";
+        EXPECT_EQ(SystemFiles().read(target).bytes, isNew ? "neu" : "alt") << n;
+        EXPECT_TRUE(fs::is_symlink(disk.folder / "link.dat"));
+        finishedNew += isNew && killed ? 1 : 0;
+    }
+    EXPECT_GT(finishedNew, 0);
+}
+
+TEST(InterruptedWrites, WithoutAWholeJournalNothingButTemporariesGoes) {
+    const Disk disk;
+    const State before = disk.Look();
+    std::ofstream(disk.folder / "a.dat.orvan-neu0") << "neu";
+    std::ofstream(disk.folder / JournalName)
+        << JournalText({{"a.dat.orvan-neu0", "a.dat", 3, Checksum("neu")}}).substr(1);
+    EXPECT_EQ(disk.Finish(), before);
+    // A journal that can't be read may be a whole one, so its files have to stay.
+    fs::create_directory(disk.folder / JournalName);
+    std::ofstream(disk.folder / "a.dat.orvan-neu0") << "neu";
+    EXPECT_TRUE(FinishInterruptedWrites(SystemFiles(), disk.folder));
+    EXPECT_TRUE(fs::exists(disk.folder / "a.dat.orvan-neu0"));
+}
+
+} // namespace
+} // namespace emporium::test

@@ -1,0 +1,175 @@
+#include "base/Ansi.h"
+#include "documents/ItemListDocument.h"
+#include "documents/ShopDocument.h"
+#include "itemeditor/ItemList.h"
+#include "regions/Availability.h"
+#include "shopeditor/ShopList.h"
+#include "shopeditor/ShopPricing.h"
+#include "support/ProgramFolder.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+namespace emporium::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Head(std::string_view title) {
+    return Lines(
+        {"<html>", "<head>", std::string("<title>").append(title).append("</title>"), "</head>"});
+}
+
+const std::string TableTop = Lines({
+    R"(<table border="1" width="100%" bordercolor="#FFFFFF" cellspacing="0" bordercolorlight="#FFFFFF" bordercolordark="#C0C0C0">)",
+    "<tr>",
+    "<TD bgcolor=white FontColor=black><b>NAME:</b></TD>",
+    "<TD bgcolor=white FontColor=black><b>GEWICHT:</b></TD>",
+    "<TD bgcolor=white FontColor=black><b>PREIS:</b></TD>",
+});
+constexpr std::string_view RegionsCaption =
+    "<TD bgcolor=white FontColor=black><b>VERFÜGBAR IN:</b></TD>"_ansi;
+constexpr std::string_view ButFour =
+    "Alle, ausser NO, TH, OR, WE, TO, HA, ZW, PU, LF, ZY, KH, MH, MA, SÜ, MO, WA, "_ansi;
+
+// A row's lines, of the widths and texts of its cells.
+std::string Row(std::initializer_list<std::pair<std::string_view, std::string_view>> cells) {
+    std::string row = Lines({"<tr>"});
+    for (const auto& [width, text] : cells)
+        row += "<td width=\"" + std::string(width) + "\"><small><font face=\"Arial\">" +
+               std::string(text) + "</font></small></td>\r\n";
+    return row + Lines({"</tr>"});
+}
+
+ShopEditor FilledShop() {
+    ShopEditor shop;
+    AddShopRow(shop, MakeShopRow("Seil (x3)2", "0,5", "12D", "BO|EL|FI|GA|"));
+    AddShopRow(shop, MakeShopRow("<Öl> & Fett1"_ansi, "", "7S", "GA|"));
+    ChoosePriceLevel(shop, 1);
+    SortShopList(shop, ShopTextColumn);
+    shop.txtName.text = "Zur Öse"_ansi;
+    shop.txtShopart.text = "Krämer"_ansi;
+    shop.txtBesitzerName.text = "Ada, Tochter des Olf";
+    shop.cmbShopRegion.Select(13);
+    shop.cmbShopQualität.Select(3);
+    return shop;
+}
+
+const std::string Choices =
+    Lines({"<B>Region: </B> SÜ</BR>"_ansi, "<B>Preise: </B> Billig</BR>",
+           "<B>Qualität: </B> Sehr gut</BR>"_ansi, "</BR>", "</BR>", "</BR>"});
+
+TEST(ShopDocument, TheExportIsTheKnownPageLineByLine) {
+    std::string file;
+    WriteShopExport(FilledShop(), file);
+    EXPECT_EQ(file, Head("Zur Öse"_ansi) +
+                        Lines({"<H1>Zur Öse</H1>"_ansi, "<B>Name des Shops: </B> Zur Öse</BR>"_ansi,
+                               "<B>Shopart: </B> Krämer</BR>"_ansi,
+                               "<B>Besitzer/in: </B> Ada, Tochter des Olf</BR>"}) +
+                        Choices + TableTop + Lines({"</tr>"}) +
+                        Row({{"50%", "Seil (x3)"}, {"40%", "0,5 Unzen"}, {"10%", "10,2D"}}) +
+                        Row({{"50%", "<Öl> & Fett"_ansi}, {"40%", " Unzen"}, {"10%", "5,95S"}}) +
+                        Lines({"</tr>", "</table>"}));
+}
+
+TEST(ShopDocument, ThePrintFormShowsTheRegionsAndNoUnit) {
+    std::string file;
+    WriteShopPrint(FilledShop(), file);
+    EXPECT_EQ(
+        file,
+        Head("Zur Öse"_ansi) +
+            Lines({"<H1>Zur Öse</H1>"_ansi, "<B>Shopart: </B> Krämer</BR>"_ansi,
+                   "<B>Besitzer: </B> Ada, Tochter des Olf</BR>"}) +
+            Choices + TableTop + Lines({RegionsCaption, "</tr>"}) +
+            Row({{"35%", "Seil (x3)"}, {"15%", "0,5"}, {"15%", "10,2D"}, {"35%", ButFour}}) +
+            Row({{"35%", "<Öl> & Fett"_ansi}, {"15%", ""}, {"15%", "5,95S"}, {"25%", "GA|"}}) +
+            Lines({"</table>"}));
+}
+
+TEST(ShopDocument, TheNumberOfLinesFollowsTheNumberOfWares) {
+    for (const int wares : {0, 1, 40}) {
+        ShopEditor shop;
+        for (int i = 0; i < wares; ++i)
+            AddShopRow(shop, MakeShopRow("Seil2", "1", "1S", ""));
+        std::string exported, printed;
+        WriteShopExport(shop, exported);
+        WriteShopPrint(shop, printed);
+        EXPECT_EQ(std::count(exported.begin(), exported.end(), '\n'), 22 + 5 * wares);
+        EXPECT_EQ(std::count(printed.begin(), printed.end(), '\n'), 21 + 6 * wares);
+        EXPECT_NE(exported.find("<H1></H1>\r\n<B>Name des Shops: </B> </BR>\r\n"), exported.npos);
+    }
+}
+
+TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
+    ItemEditor editor;
+    editor.cmbKategorien.Select(0);
+    editor.Items = {{"Zange 23", "12", "8S", "Text", "GA|PU|"},
+                    {std::string("Ähre1"_ansi), "0,5", "3H", "", ""},
+                    {"Beil2", "", "5S", "", FullAvailability()}};
+    FillItemList(editor);
+    const std::string top = Head("Alles") + TableTop + Lines({RegionsCaption, "</tr>"});
+    const std::string ear = Row({{"35%", "Ähre"_ansi}, {"15%", "0,5"}, {"15%", "3H"}, {"25%", ""}});
+    const std::string axe =
+        Row({{"35%", "Beil"}, {"15%", ""}, {"15%", "5S"}, {"35%", "Überall"_ansi}});
+    const std::string tongs =
+        Row({{"35%", "Zange 2"}, {"15%", "12"}, {"15%", "8S"}, {"25%", "GA|PU|"}});
+    const std::string bottom = Lines({"</table>"});
+    std::string byName, byPrice;
+    WriteItemList(editor, byName);
+    EXPECT_EQ(byName, top + ear + axe + tongs + bottom);
+    EXPECT_EQ(std::count(byName.begin(), byName.end(), '\n'), 12 + 6 * 3);
+    SortItemList(editor, ItemPriceColumn);
+    WriteItemList(editor, byPrice);
+    EXPECT_EQ(byPrice, top + tongs + axe + ear + bottom);
+}
+
+class Export : public testing::Test {
+protected:
+    void Run(const fs::path& chosen) {
+        script.platform.ShowSave = [&](const fs::path& folder, std::string_view filter) {
+            EXPECT_EQ(folder, program.folders.HtmlFolder);
+            EXPECT_EQ(filter, "HTML-Dateien (*.html)|*.html");
+            return chosen;
+        };
+        ExportShop(shop, script.platform, program.folders);
+    }
+
+    ProgramFolder program;
+    ScriptedPlatform script;
+    ShopEditor shop = FilledShop();
+    fs::path target = program.folders.HtmlFolder / "laden";
+};
+
+TEST_F(Export, TheFileIsThePageAndIsShownOnlyIfWanted) {
+    Run({});
+    EXPECT_TRUE(fs::is_empty(program.folders.HtmlFolder));
+    std::string page;
+    WriteShopExport(shop, page);
+    std::ofstream(target) << std::string(20'000, 'x');
+    for (const bool show : {false, true}) {
+        script.ExpectYesNo(
+            "Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?.", show);
+        Run(target);
+        EXPECT_EQ(SystemFiles().read(target).bytes, page);
+        EXPECT_EQ(script.viewed, std::vector<fs::path>(show ? 1 : 0, target));
+    }
+}
+
+TEST_F(Export, AFileThatCannotBeWrittenIsNamedAndStaysUnharmed) {
+    std::ofstream(target) << "alt";
+    fs::permissions(target, fs::perms::owner_read);
+    const auto missing = program.folders.HtmlFolder / "fehlt" / "laden.html";
+    for (const fs::path& file : {target, missing, program.folders.HtmlFolder}) {
+        script.ExpectMessage(
+            "Der Shop konnte nicht gespeichert werden.\n\nDatei: " + file.string() + "\nGrund: ");
+        Run(file);
+    }
+    EXPECT_EQ(SystemFiles().read(target).bytes, "alt");
+    EXPECT_EQ(std::distance(fs::directory_iterator(program.folders.HtmlFolder), {}), 1);
+}
+
+} // namespace
+} // namespace emporium::test

@@ -1,0 +1,134 @@
+#include "base/Ansi.h"
+#include "generator/ShopGeneration.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cmath>
+
+namespace emporium::test {
+namespace {
+
+// The lowest throw of six that passes, by Wert and quality; 7 is never.
+constexpr std::array<std::array<int, 5>, 5> LowestPass = {
+    {{3, 2, 1, 1, 1}, {4, 3, 2, 1, 1}, {5, 4, 3, 2, 1}, {6, 5, 4, 3, 2}, {7, 7, 6, 5, 4}}};
+
+struct RegionCase {
+    std::string_view availability, shop;
+    int highestPass; // of twenty; 0 is never
+};
+
+// First the three distances, then strings that are not of the right form.
+const std::vector<RegionCase> RegionCases = {{"GA|PU|", "GA", 19},
+                                             {"GA|PU|", "ZW", 16},
+                                             {"GA|PU|", "MO", 13},
+                                             {"FI|MA|PU|", "ZW", 16},
+                                             {"SÜ|"_ansi, "WA", 16},
+                                             {"MO|", "WA", 13},
+                                             {"TO|", "HA", 16},
+                                             {"HA|", "TO", 13},
+                                             {"GA", "ZW", 16},
+                                             {"MO|GA", "ZW", 16},
+                                             {"MO|XX|GA|", "ZW", 19},
+                                             {"ga|", "GA", 19},
+                                             {"in aller Welt", "ZW", 19},
+                                             {"||||||", "ZW", 19},
+                                             {"|", "ZW", 0},
+                                             {"G", "ZW", 0},
+                                             {"MO|WA|G", "ZW", 13}};
+
+ItemRecord Record(std::string nameLine, std::string_view regions = "") {
+    return {std::move(nameLine), "1", "1D", "Text", std::string(regions)};
+}
+
+// Draws with dice that show these faces, each of which has to be thrown.
+bool DrawWith(std::initializer_list<int> faces, const ItemRecord& record,
+              const ShopWishes& wishes) {
+    RegionTable regions = RegionInit();
+    ScriptedPlatform script;
+    script.Throw(faces);
+    const bool passes = DrawRecord(record, wishes, regions, script.platform.RollDice);
+    const std::vector<int> sides = {6, 20};
+    EXPECT_TRUE(script.sides.size() == faces.size() &&
+                std::equal(script.sides.begin(), script.sides.end(), sides.begin()));
+    return passes;
+}
+
+std::vector<bool> DrawMany(int count, const std::function<float()>& clock, const ItemRecord& record,
+                           const ShopWishes& wishes) {
+    RegionTable regions = RegionInit();
+    Dice dice(clock);
+    std::vector<bool> passes;
+    for (int i = 0; i < count; ++i)
+        passes.push_back(DrawRecord(record, wishes, regions,
+                                    [&dice](std::int32_t n) { return dice.RollDice(n); }));
+    return passes;
+}
+
+// Within 5.5 standard deviations; exact where chance plays no part.
+void ExpectShare(const std::vector<bool>& passes, double chance) {
+    const auto count = static_cast<double>(passes.size());
+    EXPECT_NEAR(static_cast<double>(std::count(passes.begin(), passes.end(), true)), count * chance,
+                5.5 * std::sqrt(count * chance * (1 - chance)));
+}
+
+float StillClock() {
+    return 43210.5F;
+}
+
+float RealClock() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<float>(now % std::chrono::hours(24)).count();
+}
+
+TEST(DrawRecord, EveryWertPassesAtEveryQualityFromItsThresholdOn) {
+    for (int wert = 1; wert <= 5; ++wert)
+        for (int quality = 1; quality <= 5; ++quality) {
+            const int lowest = LowestPass[static_cast<std::size_t>(wert - 1)]
+                                         [static_cast<std::size_t>(quality - 1)];
+            const ItemRecord record = Record("Seil" + std::to_string(wert));
+            const ShopWishes wishes{quality, false, "XX"};
+            SCOPED_TRACE(record[NameField] + " at " + std::to_string(quality));
+            for (int face = 1; face <= 6; ++face)
+                EXPECT_EQ(DrawWith({face}, record, wishes), face >= lowest) << face;
+            ExpectShare(DrawMany(12'000, StillClock, record, wishes), (7 - lowest) / 6.0);
+        }
+}
+
+TEST(DrawRecord, TheSecondThrowGrowsHarderWithTheDistance) {
+    for (const RegionCase& c : RegionCases) {
+        SCOPED_TRACE(std::string(c.availability).append(" in ").append(c.shop));
+        const ItemRecord record = Record("Seil4", c.availability);
+        const ShopWishes wishes{3, true, c.shop};
+        for (int face = 1; face <= 20; ++face)
+            EXPECT_EQ(DrawWith({6, face}, record, wishes), face <= c.highestPass) << face;
+        ExpectShare(DrawMany(6'000, StillClock, record, wishes), 0.5 * c.highestPass / 20);
+    }
+}
+
+TEST(DrawRecord, NoThrowIsMadeThatDecidesNothing) {
+    for (const char* nameLine : {"", "Seil", "Seil0", "Seil6", "Seil1 ", "3Seil"})
+        EXPECT_FALSE(DrawWith({}, Record(nameLine, "GA|"), {5, true, "GA"})) << nameLine;
+    EXPECT_FALSE(DrawWith({2}, Record("Seil1", "GA|"), {1, true, "GA"}));
+    EXPECT_FALSE(DrawWith({6}, Record("Seil1"), {5, true, "GA"}));
+    EXPECT_TRUE(DrawWith({1}, Record("1"), {5, false, "GA"}));
+}
+
+TEST(DrawRecord, WaresPassInAnOrderThatLooksRandom) {
+    const std::vector<std::function<float()>> clocks = {RealClock, StillClock, [] { return 0.0F; }};
+    for (const auto& clock : clocks) {
+        const auto passes = DrawMany(3000, clock, Record("Seil1"), {1, false, ""});
+        ExpectShare(passes, 2.0 / 3);
+        // The unbroken runs of the same outcome should be as many as chance makes them.
+        int runs = 1;
+        for (std::size_t i = 1; i < passes.size(); ++i)
+            runs += passes[i] != passes[i - 1] ? 1 : 0;
+        EXPECT_NEAR(runs, 2 * 3000 * (2.0 / 3) * (1.0 / 3) + 1, 150);
+    }
+}
+
+} // namespace
+} // namespace emporium::test

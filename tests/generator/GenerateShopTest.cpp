@@ -1,0 +1,176 @@
+#include "base/Ansi.h"
+#include "generator/ShopGeneration.h"
+#include "shopeditor/ShopList.h"
+#include "support/ProgramFolder.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace emporium::test {
+namespace {
+
+std::string Item(std::string_view nameLine, std::string_view price = "10S",
+                 std::string_view regions = "GA|") {
+    return Lines({nameLine, "5", price, "Text", regions});
+}
+
+// A dialog whose only type is "Krämer", ready to start at quality 5, where every ware of Wert 1 to
+// 3 passes the first throw.
+class GenerateShops : public testing::Test {
+protected:
+    GenerateShops() {
+        Configure({"[Krämer]"_ansi, "WareCount=1", "Ware1=Kleidung"});
+        program.Write("Emporium/Kleidung.dat", Item("Hemd1") + Item("Gürtel1"_ansi));
+        program.Write("Atlas/Regionen.dat", Lines({"[ZW]", "Desc=Zinnen"}));
+        script.platform.SetWaitPointer = [this](bool on) { waiting += on ? 1 : -1; };
+        dialog.cmbShopBeruf.Add("Krämer"_ansi);
+        ChooseShopType(dialog, 0);
+        ChooseGeneratorPrices(dialog, 3);
+        ChooseGeneratorQuality(dialog, 4);
+    }
+
+    void Configure(std::initializer_list<std::string_view> lines) const {
+        program.Write("Emporium/ShopgeneratorConfig.dat", Lines(lines));
+    }
+
+    void Run() {
+        dialog.open = true;
+        RegionTable regions = RegionInit();
+        GenerateShop(dialog, shop, regions, script.platform, program.folders);
+        EXPECT_FALSE(dialog.open);
+        EXPECT_EQ(waiting, 0);
+    }
+
+    // Runs with dice that always show the highest face but one.
+    std::string Wares() {
+        ClearShop(shop);
+        script.platform.RollDice = [](std::int32_t n) { return n - 1; };
+        Run();
+        std::string wares;
+        for (const auto& row : shop.lvLaden.rows)
+            wares += row->Text + " ";
+        return wares;
+    }
+
+    ProgramFolder program;
+    ScriptedPlatform script;
+    ShopEditor shop;
+    frmEmporiumGenerator dialog;
+    int waiting = 0;
+};
+
+TEST_F(GenerateShops, EachRecordHasItsOwnThrowsInFileOrder) {
+    Configure({"[Krämer]"_ansi, "WareCount=2", "Ware1=Kleidung", "Ware2=Waffen"});
+    program.Write("Emporium/Waffen.dat", Item("Dolch5", "7D", "PU|") + Item("Keule9") +
+                                             Item("Axt1", "12D", "") + Item("Speer4", "250H"));
+    TickShopRegion(dialog, true);
+    ChooseGeneratorRegion(dialog, script.platform, program.folders, 18);
+    script.Throw({1, 17, 6, 16, 4, 16, 1, 2, 1});
+    Run();
+    EXPECT_EQ(script.sides, (std::vector<int>{6, 20, 6, 20, 6, 20, 6, 6, 20}));
+    std::string rows;
+    for (const auto& row : shop.lvLaden.rows)
+        rows += row->Text + " " + row->Weight + " " + row->Price + " " + row->ShopItemLine + " " +
+                row->ShopAvailability + " ";
+    EXPECT_EQ(rows,
+              "Dolch 5 8,4D Dolch5 PU| Gürtel 5 12S Gürtel1 GA| Speer 5 300H Speer4 GA| "_ansi);
+}
+
+TEST_F(GenerateShops, TheChoicesAreHandedOverThePriceLevelOnlyToAShopWithWares) {
+    shop.txtName.text = "Laden";
+    ChooseGeneratorRegion(dialog, script.platform, program.folders, 18);
+    const std::string drawn = Wares();
+    EXPECT_EQ(drawn, "Gürtel Hemd "_ansi);
+    EXPECT_EQ(shop.cmbShopPreise.Text(), "Teuer");
+    EXPECT_EQ(shop.cmbShopQualität.Text(), "Spezialist");
+    EXPECT_EQ(shop.cmbShopRegion.Text() + shop.cmbShopRegion.toolTip, "ZWZinnen");
+    EXPECT_EQ(shop.txtShopart.text, "Krämer"_ansi);
+    EXPECT_TRUE(shop.cmdShopDelete.enabled && shop.lvLaden.current == -1);
+    Configure({"[Krämer]"_ansi, "WareCount=0", "Ware1=Kleidung"});
+    shop.txtShopart.text = "alt";
+    ChooseGeneratorRegion(dialog, script.platform, program.folders, -1);
+    EXPECT_EQ(Wares(), "");
+    EXPECT_EQ(shop.cmbShopPreise.Selection(), -1);
+    EXPECT_EQ(shop.cmbShopRegion.Selection(), -1);
+    EXPECT_EQ(shop.txtShopart.text, "Krämer"_ansi);
+    EXPECT_FALSE(shop.cmdShopDelete.enabled || shop.cmbShopPreise.enabled);
+    EXPECT_EQ(shop.txtName.text, "Laden");
+}
+
+TEST_F(GenerateShops, OddConfigurationsDrawWhatTheyName) {
+    // What stands in the section, and how often the category is drawn from.
+    const std::vector<std::pair<std::string_view, int>> cases = {
+        {"Ware1=Kleidung", 0},
+        {"WareCount=viele;Ware1=Kleidung", 0},
+        {"WareCount=-1;Ware1=Kleidung", 0},
+        {"WareCount=99999;Ware1=Kleidung", 1},
+        {"WareCount=3;Ware3=Kleidung", 1},
+        {"WareCount=2;Ware1=Fehlt;Ware2=Kleidung", 1},
+        {"WareCount=1;Ware2=Kleidung", 0},
+        {"WareCount=1;Ware01=Kleidung", 0},
+        {"warecount=1;WARE1=Kleidung", 1},
+        {"WareCount=2;Ware1=Kleidung;Ware2=Kleidung", 2},
+        {"WareCount=1;Ware1=../Emporium/Kleidung", 0},
+        {"WareCount=1;Ware1=K*", 0},
+        {"WareCount=1;Ware1=", 0},
+        {"[Schmied];WareCount=1;Ware1=Kleidung", 0}};
+    program.Write("Emporium/.dat", Item("Falle1"));
+    for (const auto& [section, times] : cases) {
+        std::string lines(section);
+        std::replace(lines.begin(), lines.end(), ';', '\n');
+        Configure({"[Krämer]"_ansi, lines});
+        Wares();
+        EXPECT_EQ(shop.ShopCount(), 2 * times) << section;
+    }
+}
+
+TEST_F(GenerateShops, ARecordThatIsCutOffIsDropped) {
+    const std::string whole = Item("Hemd1") + Item("Hut1", "9S", "BO|");
+    const std::size_t second = Item("Hemd1").size();
+    for (std::size_t length = 0; length <= whole.size(); ++length) {
+        program.Write("Emporium/Kleidung.dat", whole.substr(0, length));
+        const std::string wares = Wares();
+        // A record is whole once its fifth line has begun.
+        const bool hasFirst = length > second - 5;
+        const bool hasSecond = length > whole.size() - 5;
+        EXPECT_EQ(wares, hasSecond ? "Hemd Hut " : hasFirst ? "Hemd " : "") << length;
+    }
+}
+
+TEST_F(GenerateShops, FilesThatCannotBeReadAreNamed) {
+    Configure({"[Krämer]"_ansi, "WareCount=2", "Ware1=Kleidung", "Ware2=Waffen"});
+    program.Write("Emporium/Waffen.dat", Item("Axt1"));
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"Kleidung.dat", "Axt "}, {"ShopgeneratorConfig.dat", ""}};
+    for (const auto& [name, wares] : cases) {
+        script.platform.files.read = [&name](const std::filesystem::path& file) {
+            if (file.filename() != name)
+                return SystemFiles().read(file);
+            return FileText{
+                FileText::State::Unreadable, {}, std::make_error_code(std::errc::io_error)};
+        };
+        script.ExpectMessage("Nicht alle Daten konnten gelesen werden:\n\n" + name +
+                             ": Beim Lesen oder Schreiben ist ein Fehler aufgetreten.");
+        EXPECT_EQ(Wares(), wares);
+    }
+}
+
+TEST_F(GenerateShops, ARunStopsWithABoxAtAFullShop) {
+    script.platform.RollDice = [](std::int32_t n) { return n; };
+    for (const int room : {2, 1}) {
+        ClearShop(shop);
+        while (shop.ShopCount() < MaxRows - room)
+            shop.lvLaden.rows.push_back(MakeShopRow("Seil1", "", "1H", ""));
+        if (room == 1)
+            script.ExpectMessage("");
+        Run();
+        EXPECT_EQ(shop.ShopCount(), MaxRows);
+        EXPECT_EQ(shop.lvLaden.rows.front()->Text, room == 1 ? "Hemd" : "Gürtel"_ansi);
+        EXPECT_EQ(shop.cmbShopPreise.Text(), "Teuer");
+    }
+}
+
+} // namespace
+} // namespace emporium::test

@@ -1,0 +1,72 @@
+#include "base/Ansi.h"
+#include "itemeditor/ItemForm.h"
+#include "support/EditorAtWork.h"
+
+#include <gtest/gtest.h>
+
+namespace emporium::test {
+namespace {
+
+// Opens and saves every record of every view: unchanged, and changed in each line and back again.
+void ExpectSameBytes(EditorAtWork& world) {
+    const auto files = world.Files();
+    auto views = world.editor.CategoryNames;
+    views.emplace_back(AllCategories);
+    for (const std::string& view : views) {
+        world.View(view);
+        const auto records = world.editor.Items;
+        for (int row = 0; row < world.editor.ItemCount(); ++row) {
+            world.Open(row);
+            EXPECT_TRUE(world.editor.cmdItemSave.enabled) << world.editor.txtItem[NameText].text;
+            world.Save();
+        }
+        const int step = 1 + world.editor.ItemCount() / 3;
+        for (int row = 0; row < world.editor.ItemCount(); row += step)
+            for (const ItemRecord& record :
+                 {ItemRecord{"Zwischendurch1", "7", "8H", "anders", "FI|"},
+                  records[static_cast<std::size_t>(row)]}) {
+                world.Open(row);
+                world.Fill(record);
+                world.Save();
+            }
+        EXPECT_TRUE(world.Files() == files) << view;
+        EXPECT_EQ(world.editor.Items, records) << view;
+    }
+}
+
+TEST(RoundTrip, OddButSoundRecords) {
+    EditorAtWork world;
+    ExpectSameBytes(world);
+}
+
+TEST(RoundTrip, TheShippedFiles) {
+    namespace fs = std::filesystem;
+    EditorAtWork world;
+    fs::remove_all(world.program.folders.DataFolder);
+    fs::copy(STARTER_DATA, world.program.folders.DataFolder, fs::copy_options::recursive);
+    world.ReadList();
+    EXPECT_GT(world.editor.CategoryNames.size(), 3U);
+    for (const std::string& name : world.editor.CategoryNames)
+        EXPECT_FALSE(world.File(name).empty()) << name;
+    ExpectSameBytes(world);
+}
+
+TEST(RoundTrip, DamagedFilesStayAsTheyAre) {
+    const std::string whole = "Seil1\n80\n3S\n\nBO|\nTau1\n\n2S\n\nWA|";
+    for (std::size_t size = 18; size <= whole.size(); ++size) {
+        EditorAtWork world;
+        int boxes = 0;
+        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
+        world.program.Write("Emporium/Abakus.dat", whole.substr(0, size));
+        for (const std::string_view view : {"Abakus", "Alles"}) {
+            world.View(view);
+            EXPECT_EQ(boxes > 0, size < whole.size() - 2) << size;
+            world.Open("Seil");
+            world.Save();
+            EXPECT_EQ(world.File("Abakus"), whole.substr(0, size));
+        }
+    }
+}
+
+} // namespace
+} // namespace emporium::test

@@ -1,0 +1,78 @@
+#include "regions/AtlasEngine.h"
+#include "regions/Availability.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <utility>
+
+namespace emporium::test {
+namespace {
+
+// Every border once, and behind them the two that open one way only.
+constexpr std::string_view Borders =
+    "BO-NO BO-TO BO-WE EL-NO EL-WE FI-NO GA-MH GA-PU GA-WE GA-ZW HA-LF HA-OR HA-TH HA-WE HA-ZW "
+    "KH-LF KH-MH KH-PU KH-SÜ LF-PU LF-SÜ LF-ZW LF-ZY MA-MH MH-PU MO-SÜ NO-OR NO-TH NO-WE OR-TH "
+    "OR-WE PU-ZW SÜ-WA SÜ-ZY TO-WE WE-ZW TO>HA GA>TO "_ansi;
+
+constexpr std::string_view Full =
+    "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|"_ansi;
+
+using Pair = std::pair<std::string_view, std::string_view>;
+
+TEST(RegionDistance, NeighboursAreAtOneAndAllElseAtTwo) {
+    std::set<Pair> neighbours;
+    for (std::size_t i = 0; i < Borders.size(); i += 6) {
+        neighbours.emplace(Borders.substr(i, 2), Borders.substr(i + 3, 2));
+        if (Borders[i + 2] == '-')
+            neighbours.emplace(Borders.substr(i + 3, 2), Borders.substr(i, 2));
+    }
+    ASSERT_EQ(neighbours.size(), 74U);
+    RegionTable table = RegionInit();
+    const auto before = table.RegionDistances;
+    for (std::size_t i = 1; i <= RegionCount; ++i)
+        for (std::size_t j = 1; j <= RegionCount; ++j) {
+            const Pair pair(RegionCodes[i], RegionCodes[j]);
+            EXPECT_EQ(RegionDistance(table, pair.first, pair.second),
+                      neighbours.contains(pair) ? 1 : 2)
+                << pair.first << " " << pair.second;
+        }
+    EXPECT_EQ(table.RegionDistances, before);
+    for (const std::string_view other : {"", "no", "N", "NO|", " NO", "XX"}) {
+        EXPECT_EQ(RegionDistance(table, other, "NO"), std::nullopt) << other;
+        EXPECT_EQ(RegionDistance(table, "NO", other), std::nullopt) << other;
+    }
+}
+
+TEST(RegionDistance, ALongWayIsShortenedByTheRegionsBetween) {
+    RegionTable table = RegionInit();
+    table.RegionDistances[4].fill(30);
+    table.RegionDistances[4][1] = 4; // only by way of the region that stands first
+    EXPECT_EQ(RegionDistance(table, RegionCodes[4], "WE"), 5);
+    EXPECT_EQ(RegionDistance(table, RegionCodes[4], "WA"), 6);
+    EXPECT_EQ(RegionDistance(table, "WE", RegionCodes[4]), 2);
+}
+
+TEST(Availability, DocumentsTellFewRegionsByNameAndManyByTheirExceptions) {
+    std::string reversed;
+    for (std::size_t i = RegionCount; i >= 1; --i)
+        reversed.append(RegionCodes[i]).append("|");
+    std::string butTwo(Full);
+    butTwo.erase(butTwo.find("NO|"), 3);
+    butTwo.erase(butTwo.find("WA|"), 3);
+    const std::vector<Pair> cases = {
+        {"", ""},
+        {"BO|EL|FI|", "BO|EL|FI|"},
+        {"1234567890", "1234567890"},
+        {"BO|EL|FI|GA|",
+         "Alle, ausser NO, TH, OR, WE, TO, HA, ZW, PU, LF, ZY, KH, MH, MA, SÜ, MO, WA, "_ansi},
+        {butTwo, "Alle, ausser NO, WA, "},
+        {Full, "Überall"_ansi},
+        {reversed, "Alle, ausser "}};
+    for (const auto& [availability, text] : cases)
+        EXPECT_EQ(AvailabilityText(availability), text) << availability;
+    EXPECT_EQ(FullAvailability(), Full);
+}
+
+} // namespace
+} // namespace emporium::test

@@ -1,0 +1,201 @@
+#include "store/ArsenalImport.h"
+
+#include "base/Ansi.h"
+#include "store/CategoryFiles.h"
+#include "support/FaultyFiles.h"
+#include "support/ProgramFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace emporium::test {
+namespace {
+
+struct SourceForm {
+    std::string_view category;
+    std::size_t lines, description, price, unit;
+};
+
+constexpr SourceForm Forms[] = {{"Nahkampfwaffen", 28, 3, 10, 26},
+                                {"Fernwaffen", 22, 3, 8, 20},
+                                {"Rüstungen"_ansi, 19, 2, 8, 17}};
+constexpr const SourceForm& Ranged = Forms[1];
+
+// A source record of the name, with the line before it.
+std::string Source(const SourceForm& form, std::string_view name,
+                   std::string_view unit = "Silbertaler") {
+    std::vector<std::string> lines(form.lines, "D|XX");
+    lines[0] = name;
+    lines[1] = "40";
+    lines[form.description] = "Wie " + std::string(name);
+    lines[form.price] = "15";
+    lines[form.unit] = unit;
+    lines.back() = "BO|GA|";
+    std::string text = "--\r\n";
+    for (const std::string& line : lines)
+        text += line + "\r\n";
+    return text;
+}
+
+// The record that it becomes.
+std::string Item(std::string_view name, std::string_view unit = "S") {
+    return Lines({std::string(name) + "1", "40", "15" + std::string(unit),
+                  "Wie " + std::string(name), "BO|GA|"});
+}
+
+const std::string Heading = "Waffen\r\n";
+
+class ArsenalImport : public testing::Test {
+protected:
+    void Set(std::string_view folder, std::string_view category, std::string_view bytes) const {
+        program.Write(Name(folder, category), bytes);
+    }
+
+    std::string Get(std::string_view category) const {
+        return program.Read(Name("Emporium", category));
+    }
+
+    void Import() {
+        faults.clear();
+        emporium::ImportArsenal(files, program.folders, faults);
+    }
+
+    static std::string Name(std::string_view folder, std::string_view category) {
+        return std::string(folder).append("/").append(category).append(".dat");
+    }
+
+    ProgramFolder program;
+    FileLayer files = SystemFiles();
+    std::vector<std::string> faults;
+};
+
+TEST_F(ArsenalImport, FillsEmptyCategoriesAndAddsNothingASecondTime) {
+    for (const SourceForm& form : Forms) {
+        Set("Arsenal", form.category,
+            Heading + Source(form, "Öx"_ansi) + Source(form, "Aal", "Pf"));
+        Set("Emporium", form.category, "");
+    }
+    Import();
+    for (const SourceForm& form : Forms)
+        EXPECT_EQ(Get(form.category), Item("Öx"_ansi) + Item("Aal", "P")) << form.category;
+    files.createNew = [](const auto&, auto&) {
+        ADD_FAILURE() << "a write";
+        return std::error_code();
+    };
+    Import();
+    EXPECT_TRUE(faults.empty());
+    EXPECT_TRUE(std::filesystem::is_empty(program.folders.TempFolder));
+}
+
+TEST_F(ArsenalImport, OnlyEverAdds) {
+    const std::string axe = Source(Ranged, "Axt");
+    const std::string raised = Lines({"Axt4", "1", "2D", "Meine", ""});
+    const std::string axeLf = "Axt9\n\n1P\n\n\n";
+    const struct {
+        std::string what, source, before, after;
+    } cases[] = {
+        {"an empty source", "", raised, raised},
+        {"a heading only", Heading, raised, raised},
+        {"the user's record stays", Heading + axe, raised, raised},
+        {"a new one goes behind", Heading + Source(Ranged, "Bogen") + axe, raised,
+         raised + Item("Bogen")},
+        {"case counts", Heading + Source(Ranged, "axt"), raised, raised + Item("axt")},
+        {"a longer name is another", Heading + Source(Ranged, "Axt4"), raised,
+         raised + Item("Axt4")},
+        {"two of one name", Heading + axe + axe, "", Item("Axt") + Item("Axt")},
+        {"a name among the other lines", Heading + Source(Ranged, "Meine"), raised,
+         raised + Item("Meine")},
+        {"no unit that the program knows", Heading + Source(Ranged, "Pfeil", "taler") + axe, "",
+         Item("Axt")},
+        {"neither unit nor name", Heading + Source(Ranged, "Pfeil", "") + Source(Ranged, ""), "",
+         ""},
+        {"LF ends in the category", Heading + Source(Ranged, "Bogen") + axe, axeLf,
+         axeLf + Item("Bogen")},
+        {"no last line end in the category", Heading + Source(Ranged, "Bogen"), "Axt9\n\n1P\n\nBO|",
+         "Axt9\n\n1P\n\nBO|\r\n" + Item("Bogen")},
+        {"an empty name line in the category", Heading + axe, Lines({"", "", "", "", ""}),
+         Lines({"", "", "", "", ""}) + Item("Axt")},
+        {"no last line end in the source", Heading + axe.substr(0, axe.size() - 2), "",
+         Item("Axt")},
+    };
+    for (const auto& c : cases) {
+        Set("Arsenal", Ranged.category, c.source);
+        Set("Emporium", Ranged.category, c.before);
+        Import();
+        EXPECT_EQ(Get(Ranged.category), c.after) << c.what;
+        EXPECT_TRUE(faults.empty()) << c.what;
+    }
+}
+
+TEST_F(ArsenalImport, ARecordThatEndsEarlyIsLeftOut) {
+    const std::string second = Source(Ranged, "Bogen");
+    std::size_t cut = 0;
+    for (std::size_t line = 0; line < Ranged.lines; ++line) {
+        cut = second.find('\n', cut) + 1; // behind the separator, the name and so on
+        for (const std::size_t bytes : {cut - 2, cut}) {
+            Set("Arsenal", Ranged.category,
+                Heading + Source(Ranged, "Axt") + second.substr(0, bytes));
+            Set("Emporium", Ranged.category, "");
+            Import();
+            EXPECT_EQ(Get(Ranged.category), Item("Axt")) << "cut off behind " << line << " lines";
+        }
+    }
+}
+
+TEST_F(ArsenalImport, WhatIsMissingOrDamagedStopsOnlyItsOwnCategory) {
+    namespace fs = std::filesystem;
+    const std::string cutOff = Lines({"Dolch1", "40", "15S", "Wie Dolch"});
+    Set("Arsenal", "Nahkampfwaffen", Heading + Source(Forms[0], "Axt"));
+    Set("Emporium", "Nahkampfwaffen", cutOff);
+    Set("Emporium", "Fernwaffen", "");
+    Set("Arsenal", "Rüstungen"_ansi, Heading + Source(Forms[2], "Helm"));
+    Import();
+    EXPECT_EQ(Get("Nahkampfwaffen"), cutOff);
+    EXPECT_EQ(Get("Fernwaffen"), "");
+    EXPECT_EQ(Get("Rüstungen"_ansi), Item("Helm")) << "a category file that is missing is made";
+    ASSERT_EQ(faults.size(), 1U) << "a missing source is not told";
+    EXPECT_TRUE(faults[0].starts_with("Nahkampfwaffen.dat: ")) << faults[0];
+
+    fs::create_directory(program.folders.DataFolder / "Arsenal" / "Fernwaffen.dat");
+    Import();
+    ASSERT_EQ(faults.size(), 2U);
+    EXPECT_TRUE(faults[1].starts_with("Arsenal, Fernwaffen.dat: ")) << faults[1];
+}
+
+TEST_F(ArsenalImport, AFailureLeavesTheCategoryAndIsTold) {
+    const std::string before = Item("Bogen");
+    Set("Arsenal", Ranged.category, Heading + Source(Ranged, "Axt"));
+    for (int n = 1;; ++n) {
+        Set("Emporium", Ranged.category, before);
+        const FaultyFiles faulty(Fault::Once, n);
+        files = faulty.files;
+        Import();
+        const bool told = !faults.empty() && faults[0].find("Fernwaffen") != std::string::npos;
+        EXPECT_EQ(Get(Ranged.category), told ? before : before + Item("Axt")) << n;
+        if (!faulty.HasFired())
+            break;
+    }
+    EXPECT_TRUE(faults.empty());
+}
+
+TEST_F(ArsenalImport, OlderFilesTakeThePresentNamesOrStayWhereTheyAre) {
+    for (int n = 1;; ++n) {
+        Set("Emporium", "EmporiumFernwaffen", "older");
+        Set("Emporium", "Fernwaffen", "present");
+        const FaultyFiles faulty(Fault::Once, n);
+        faults.clear();
+        RenameOldCategoryFiles(faulty.files, program.folders, faults);
+        EXPECT_EQ(Get("EmporiumFernwaffen"), faults.empty() ? "(absent)" : "older") << n;
+        EXPECT_EQ(Get("Fernwaffen"), faults.empty() ? "older" : "present") << n;
+        if (!faulty.HasFired())
+            break;
+    }
+    EXPECT_TRUE(faults.empty());
+
+    Set("Emporium", "EmporiumRüstungen"_ansi, "");
+    RenameOldCategoryFiles(SystemFiles(), program.folders, faults);
+    EXPECT_EQ(Get("Rüstungen"_ansi), "") << "also where there was no file of that name";
+    EXPECT_EQ(Get("Nahkampfwaffen"), "(absent)") << "without an older file nothing happens";
+}
+
+} // namespace
+} // namespace emporium::test

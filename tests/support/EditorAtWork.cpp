@@ -1,0 +1,193 @@
+#include "support/EditorAtWork.h"
+
+#include "base/Ansi.h"
+#include "itemeditor/AvailabilityEditor.h"
+#include "itemeditor/CategoryChoice.h"
+#include "itemeditor/ItemForm.h"
+#include "itemeditor/ItemList.h"
+#include "itemeditor/ItemSaving.h"
+#include "regions/Availability.h"
+#include "support/FaultyFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+namespace emporium::test {
+
+namespace {
+
+int PlaceOf(const ChoiceList& list, std::string_view entry) {
+    const auto found = std::find(list.Entries().begin(), list.Entries().end(), entry);
+    EXPECT_NE(found, list.Entries().end()) << entry;
+    return static_cast<int>(found - list.Entries().begin());
+}
+
+int PlaceOfMark(std::string_view marks, const std::string& line) {
+    const auto place = line.empty() ? marks.npos : marks.find(line.back());
+    return place == marks.npos ? -1 : static_cast<int>(place);
+}
+
+} // namespace
+
+EditorAtWork::EditorAtWork() {
+    const std::pair<std::string_view, std::string_view> files[] = {
+        {"ItemKategorien"_ansi,
+         " 6 ;Nahkampfwaffen;Fernwaffen;Rüstungen;Kleidung;Öllampen;Abakus;"_ansi},
+        {"Nahkampfwaffen"_ansi, "Dolch2;20;12S;Ein einfacher Dolch;BO|GA|TH|;"_ansi},
+        {"Fernwaffen"_ansi, ""_ansi},
+        {"Rüstungen"_ansi, "Helm4;60;+3D;;;"_ansi},
+        {"Kleidung"_ansi, "Mantel3;0,5;20D; Blau, mit | bestickt ;"
+                          "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|;"
+                          "Ärmel1;;5S;;;"
+                          "mantel2;-1.;100D;Für \u0081 den Regen;SÜ|;"
+                          "Zopf5;2;5S;;BO|;"_ansi},
+        {"Öllampen"_ansi, "Laterne 23;7;8H;;;X1;;-P;Nur ein Zeichen;;"_ansi},
+        {"Abakus"_ansi, ""_ansi}};
+    for (const auto& [name, lines] : files) {
+        std::string bytes;
+        for (const char c : lines)
+            bytes += c == ';' ? "\r\n" : std::string(1, c);
+        program.Write(std::string("Emporium/").append(name).append(".dat"), bytes);
+    }
+    script.platform.files.flush = [](FileLayer::Handle) { return std::error_code(); };
+    script.platform.files.flushFolder = [](const auto&) { return std::error_code(); };
+    ReadList();
+}
+
+void EditorAtWork::ReadList() {
+    editor = ItemEditor();
+    std::vector<std::string> faults;
+    ReadCategoryList(editor, script.platform.files, program.folders, faults);
+    EXPECT_TRUE(faults.empty());
+}
+
+void EditorAtWork::View(std::string_view entry) {
+    ChooseCategory(editor, script.platform, program.folders, PlaceOf(editor.cmbKategorien, entry));
+}
+
+void EditorAtWork::FormCategory(std::string_view entry) {
+    editor.cmbItemKategorien.Select(PlaceOf(editor.cmbItemKategorien, entry));
+}
+
+int EditorAtWork::Find(std::string_view name) const {
+    for (int row = 0; row < editor.ItemCount(); ++row)
+        if (ItemName(editor.Record(row)) == name)
+            return row;
+    return -1;
+}
+
+void EditorAtWork::Open(int record) {
+    ASSERT_GE(record, 0);
+    ChooseItemRow(editor, script.platform, program.folders, record);
+}
+
+void EditorAtWork::Fill(const ItemRecord& record) {
+    EditItemText(editor, NameText, std::string(ItemName(record)));
+    EditItemText(editor, WeightText, record[WeightField]);
+    EditItemText(editor, PriceText, std::string(WithoutLast(record[PriceField])));
+    EditItemText(editor, DescriptionText, record[DescriptionField]);
+    editor.cmbItemPreis.Select(PlaceOfMark("DSHP", record[PriceField]));
+    ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
+    ReturnAllRegions(editor);
+    for (const std::string_view code : AvailabilityCodes(record[AvailabilityField])) {
+        SelectRegion(editor, script.platform, program.folders, PlaceOf(editor.lstRegionen, code));
+        MoveRegionIn(editor);
+    }
+}
+
+void EditorAtWork::Save() {
+    SaveItem(editor, script.platform, program.folders);
+}
+
+void EditorAtWork::Delete() {
+    ConfirmDeleteItem(editor, script.platform, program.folders);
+}
+
+void EditorAtWork::Delete(bool answer) {
+    script.ExpectYesNo(DeleteQuestion, answer);
+    Delete();
+}
+
+std::string EditorAtWork::Rows() const {
+    std::string names;
+    for (const int row : editor.lvGegenstände.rows)
+        names.append(names.empty() ? "" : " ").append(ItemName(editor.Record(row)));
+    return names;
+}
+
+std::string EditorAtWork::File(std::string_view category) const {
+    return program.Read(std::string("Emporium/").append(category).append(".dat"));
+}
+
+std::map<std::string, std::string> EditorAtWork::Files() const {
+    std::map<std::string, std::string> files;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(program.folders.EmporiumFolder())) {
+        const std::string name = FromPath(entry.path().filename());
+        if (name.ends_with(".dat"))
+            files[name] = program.Read("Emporium/" + name);
+    }
+    return files;
+}
+
+std::string EditorAtWork::State() const {
+    std::ostringstream out;
+    const auto put = [&out](const auto& entries) {
+        for (const auto& entry : entries)
+            out << entry << ';';
+        out << '\n';
+    };
+    for (const ItemRecord& record : editor.Items)
+        put(record);
+    put(editor.CategoryNames);
+    put(editor.ItemHomeCategories);
+    put(editor.lvGegenstände.rows);
+    for (const TextField& field : editor.txtItem)
+        out << field.text << '\n';
+    for (const ChoiceList* list :
+         {&editor.cmbKategorien, &editor.cmbItemKategorien, &editor.cmbItemPreis,
+          &editor.cmbItemWert, &editor.lstRegionen, &editor.lstVerfügbar}) {
+        put(list->Entries());
+        out << list->Selection() << '\n';
+    }
+    for (const Button* button : {&editor.cmdItemSave, &editor.cmdItemDelete, &editor.cmdItemHin,
+                                 &editor.cmdListeDrucken, &editor.cmdKategorieDelete})
+        out << button->enabled;
+    out << editor.CurrentItemRow << editor.EditingExisting << editor.lvGegenstände.toolTip;
+    return out.str();
+}
+
+void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
+                        const std::function<void(EditorAtWork&)>& act) {
+    EditorAtWork whole;
+    prepare(whole);
+    act(whole);
+    for (int n = 1;; ++n) {
+        SCOPED_TRACE("file operation " + std::to_string(n));
+        EditorAtWork world;
+        prepare(world);
+        const auto files = world.Files();
+        const auto state = world.State();
+        int boxes = 0;
+        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
+        const FaultyFiles faulty(Fault::Once, n);
+        world.script.platform.files = faulty.files;
+        act(world);
+        EXPECT_LE(boxes, 1);
+        EXPECT_EQ(world.Files(), boxes > 0 ? files : whole.Files());
+        EXPECT_EQ(world.State(), boxes > 0 ? state : whole.State());
+        if (!faulty.HasFired())
+            break;
+    }
+}
+
+std::string RecordLines(const std::vector<ItemRecord>& records) {
+    std::string text;
+    for (const ItemRecord& record : records)
+        text += Lines({record[0], record[1], record[2], record[3], record[4]});
+    return text;
+}
+
+} // namespace emporium::test
