@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Holds the source's structure: includes run from higher folders to lower ones only, no file reaches
+# itself through others, and nothing but the window library and the program includes Qt.
+set -u
+cd "$(dirname "$0")/../src" || exit 1
+
+# From the lowest folder to the highest. Folders on one line do not know each other.
+layers='base
+regions names
+store
+itemeditor
+shopeditor
+generator documents
+frame
+ui
+program'
+
+includes=$(grep -rHoE '^#include "[^"]+"' --include='*.h' --include='*.cpp' . |
+    sed -E 's|^\./([^:]+):#include "([^"]+)"|\1 \2|')
+
+wrong=$(awk -v layers="$layers" '
+    BEGIN {
+        count = split(layers, rows, "\n")
+        for (i = 1; i <= count; ++i) {
+            n = split(rows[i], names, " ")
+            for (k = 1; k <= n; ++k) rank[names[k]] = i
+        }
+    }
+    {
+        split($1, from, "/"); split($2, to, "/")
+        if (!(from[1] in rank) || !(to[1] in rank)) print $1 " -> " $2 " (unknown folder)"
+        else if (from[1] != to[1] && rank[to[1]] >= rank[from[1]]) print $1 " -> " $2
+    }' <<<"$includes")
+loops=$(tsort <<<"$includes" 2>&1 >/dev/null)
+qt=$(grep -rlE '^#include <Q' --include='*.h' --include='*.cpp' . | grep -vE '^\./(ui|program)/')
+platform=$(grep -rlE '_WIN32' --include='*.h' --include='*.cpp' . | grep -v '^\./base/SystemFiles.cpp$')
+
+status=0
+report() { [ -z "$2" ] || { printf '%s:\n%s\n' "$1" "$2"; status=1; }; }
+report "includes that run upwards" "$wrong"
+report "files that reach themselves" "$loops"
+report "Qt in the core" "$qt"
+report "files that ask for the system" "$platform"
+exit $status

@@ -1,0 +1,140 @@
+#include "window/WindowFixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace emporium::test {
+namespace {
+
+QString FieldText(const WindowDriver& driver, const char* name) {
+    return driver.Find<QLineEdit>(name)->text();
+}
+
+TEST_F(WindowTest, AnItemIsEditedSavedAndDeleted) {
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    EXPECT_EQ(driver->Cell("lvGegenstände", 1, 0), "Öse");
+    driver->ClickRow("lvGegenstände", 2);
+    EXPECT_EQ(FieldText(*driver, "txtItem0"), "Zange");
+    driver->Type("txtItem0", "Beißzange");
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(driver->Cell("lvGegenstände", 1, 0), "Beißzange");
+    EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").starts_with("Bei\xDFzange2\r\n40\r\n15S"));
+
+    Answer("Wollt ihr den gewählten Gegenstand wirklich löschen ?", "Nein");
+    QTest::keyClick(driver->Find("lvGegenstände"), Qt::Key_Delete);
+    QTest::qWait(50);
+    Answer("Wollt ihr den gewählten Gegenstand wirklich löschen ?", "Ja");
+    driver->Click("cmdItemDelete");
+    EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").starts_with("Ahle1"));
+}
+
+TEST_F(WindowTest, ANewItemNeedsItsUnit) {
+    Open();
+    driver->Pick("cmbKategorien", "Öle");
+    driver->Click("cmdItemNeu");
+    EXPECT_EQ(window->focusWidget(), driver->Find("txtItem0"));
+    driver->Type("txtItem0", "Leinöl");
+    driver->Type("txtItem2", "7x,5,");
+    EXPECT_EQ(FieldText(*driver, "txtItem2"), "7,5");
+    EXPECT_FALSE(driver->Find("cmdItemSave")->isEnabled());
+    driver->Pick("cmbItemWert", "1 - Gibts in jedem Fachgeschäft");
+    Dismiss("Bitte wählt zum Preis auch eine Währung aus.");
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(FieldText(*driver, "txtItem0"), "Leinöl");
+    driver->Pick("cmbItemPreis", "Heller");
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(program.Read("Emporium/Öle.dat"_ansi), Lines({"Leinöl1"_ansi, "", "7,5H", "", ""}));
+}
+
+TEST_F(WindowTest, CategoriesAreCreatedAndDeleted) {
+    Open();
+    Enter("Bitte gebt der Kategorie einen Namen.", "Öle");
+    Dismiss("Diese Kategorie existiert bereits");
+    Enter("Bitte gebt der Kategorie einen Namen.", "Garn");
+    driver->Click("cmdKategorieNeu");
+    EXPECT_EQ(program.Read("Emporium/Garn.dat"), "");
+    driver->Pick("cmbKategorien", "Garn");
+    Answer("Soll die gewählte Kategorie wirklich gelöscht werden ?", "Ja");
+    driver->Click("cmdKategorieDelete");
+    EXPECT_EQ(program.Read("Emporium/Garn.dat"), "(absent)");
+    EXPECT_EQ(driver->Find<QComboBox>("cmbKategorien")->findText("Garn"), -1);
+}
+
+struct Entered {
+    const char* what;
+    const char* field;
+    QString before;
+    QString entered;
+    QString after;
+};
+
+// Whatever road a text takes, what the program can't store stays outside.
+TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    const Entered table[] = {
+        {"line ends and tabs", "txtItem0", "", "Ei\r\nn\tBeil\n", "EinBeil"},
+        {"U+2028 and NUL", "txtItem3", "", QString("a\u2028b") + QChar(0) + "c", "abc"},
+        {"a decomposed umlaut", "txtItem0", "", "Mu\u0308hle", "Mühle"},
+        {"beyond the code page", "txtItem0", "", "Ж5€", "5€"},
+        {"a number with a unit", "txtItem1", "", "-1.5,0 kg", "-1.50"},
+        {"a sign behind a digit", "txtItem2", "7", "-3", "73"},
+        {"nothing that may enter", "txtItem2", "7", "abc", "7"},
+    };
+    for (const Entered& row : table) {
+        auto* field = driver->Find<QLineEdit>(row.field);
+        driver->Type(row.field, row.before);
+        QApplication::clipboard()->setText(row.entered);
+        field->paste();
+        EXPECT_EQ(field->text(), row.after) << "pasted: " << row.what;
+
+        driver->Type(row.field, row.before);
+        QInputMethodEvent event;
+        event.setCommitString(row.entered);
+        QApplication::sendEvent(field, &event);
+        EXPECT_EQ(field->text(), row.after) << "composed: " << row.what;
+    }
+}
+
+TEST_F(WindowTest, ADroppedKeyLeavesTheSelection) {
+    Open();
+    driver->Type("txtItem2", "1,5");
+    auto* price = driver->Find<QLineEdit>("txtItem2");
+    price->setSelection(1, 1);
+    QTest::keyClicks(price, ".");
+    EXPECT_EQ(price->text(), "1,5");
+    EXPECT_EQ(price->selectedText(), ",");
+}
+
+TEST_F(WindowTest, TheWheelChangesNoClosedList) {
+    Open();
+    driver->Pick("cmbItemWert", "5 - Extrem selten");
+    auto* list = driver->Find<QComboBox>("cmbItemWert");
+    QWheelEvent wheel(QPointF(5, 5), list->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(list, &wheel);
+    EXPECT_EQ(list->currentText(), "5 - Extrem selten");
+}
+
+TEST_F(WindowTest, AStartWithBrokenFilesSaysSoOnceAndGoesOn) {
+    program.Write("Emporium/ItemKategorien.dat", "");
+    std::filesystem::remove(program.folders.EmporiumFolder() / "ItemKategorien.dat");
+    std::filesystem::create_directory(program.folders.EmporiumFolder() / "ItemKategorien.dat");
+    int boxes = 0;
+    QTimer::singleShot(50, [&boxes] {
+        ++boxes;
+        QApplication::activeModalWidget()->close();
+    });
+    Open();
+    EXPECT_EQ(boxes, 1);
+    const auto* list = driver->Find<QComboBox>("cmbKategorien");
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->itemText(0), "Alles");
+}
+
+} // namespace
+} // namespace emporium::test
