@@ -49,9 +49,10 @@ bool PassesRegion(std::string_view availability, std::string_view region, Region
 
 // Draws from one category into the shop, without regard to the list's order. False if the shop is
 // full.
-bool DrawCategory(const CategoryFile& category, const ShopWishes& wishes, RegionTable& regions,
+bool DrawCategory(std::string_view category, const ShopWishes& wishes, RegionTable& regions,
                   const Die& RollDice, ShopEditor& shop) {
-    for (const ItemRecord& record : category.records) {
+    RecordReader reader(category);
+    for (RecordView record; reader.Next(record);) {
         if (!DrawRecord(record, wishes, regions, RollDice))
             continue;
         if (ShopIsFull(shop))
@@ -74,10 +75,10 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, RegionTable&
         const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
         if (!IsPlainName(name) || !FileExists(CategoryPath(folders, name)))
             continue;
-        const CategoryFile category = ReadCategoryFile(platform.files, folders, name);
+        const FileText category = platform.files.read(CategoryPath(folders, name));
         if (category.state == FileText::State::Unreadable)
             faults.push_back(name + ".dat: " + ReasonText(category.reason));
-        if (!DrawCategory(category, wishes, regions, platform.RollDice, shop)) {
+        if (!DrawCategory(category.bytes, wishes, regions, platform.RollDice, shop)) {
             faults.emplace_back(ShopFullText);
             return;
         }
@@ -96,7 +97,7 @@ void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
 
 } // namespace
 
-bool DrawRecord(const ItemRecord& record, const ShopWishes& wishes, RegionTable& regions,
+bool DrawRecord(const RecordView& record, const ShopWishes& wishes, RegionTable& regions,
                 const Die& RollDice) {
     return PassesRarity(record[NameField], wishes.quality, RollDice) &&
            (!wishes.regionCounts ||

@@ -22,7 +22,7 @@ struct ShopWishes {
 
 /// The record test: throws the dice for one record. A record whose name line does not end in the
 /// digit 1 to 5 never passes, nor does one without a region if the region counts.
-bool DrawRecord(const ItemRecord& record, const ShopWishes& wishes, RegionTable& regions,
+bool DrawRecord(const RecordView& record, const ShopWishes& wishes, RegionTable& regions,
                 const Die& RollDice);
 
 /// Fills the emptied shop from the dialog's choices, hands these over to the shop's fields and

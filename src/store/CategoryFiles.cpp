@@ -91,6 +91,15 @@ std::string CategoryListText(const std::vector<std::string>& names) {
     return text;
 }
 
+bool RecordReader::Next(RecordView& record) {
+    for (std::size_t field = 0; field < record.size(); ++field)
+        if (!lines_.Next(record[field])) {
+            cutOff_ = cutOff_ || field > 0;
+            return false;
+        }
+    return true;
+}
+
 CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
                               std::string_view name) {
     CategoryFile file;
@@ -103,18 +112,10 @@ CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
     file.state = text.state;
     file.reason = text.reason;
     file.bytes = std::move(text.bytes);
-    LineReader lines(file.bytes);
-    while (!lines.AtEnd() && !file.cutOff) {
-        ItemRecord record;
-        for (std::string& field : record) {
-            file.cutOff = file.cutOff || lines.AtEnd();
-            std::string_view line;
-            lines.Next(line);
-            field = line;
-        }
-        if (!file.cutOff)
-            file.records.push_back(std::move(record));
-    }
+    RecordReader reader(file.bytes);
+    for (RecordView lines; reader.Next(lines);)
+        std::copy(lines.begin(), lines.end(), file.records.emplace_back().begin());
+    file.cutOff = reader.CutOff();
     return file;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/FileLayer.h"
+#include "base/LineReader.h"
 #include "base/Variablen.h"
 
 #include <array>
@@ -24,6 +25,26 @@ enum ItemField : std::size_t {
 };
 
 using ItemRecord = std::array<std::string, ItemFieldCount>;
+
+/// A record within the text of its file.
+using RecordView = std::array<std::string_view, ItemFieldCount>;
+
+/// The records of a category file's text, one after the other.
+class RecordReader {
+public:
+    /// The text must outlive the reader and the records that it gave.
+    explicit RecordReader(std::string_view text) : lines_(text) {}
+
+    /// The next whole record; false behind the last one.
+    bool Next(RecordView& record);
+
+    /// True if lines were left over behind the last whole record.
+    bool CutOff() const { return cutOff_; }
+
+private:
+    LineReader lines_;
+    bool cutOff_ = false;
+};
 
 /// The name without its Wert digit.
 std::string_view ItemName(const ItemRecord& record);

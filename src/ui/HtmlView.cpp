@@ -24,17 +24,24 @@ QString AsBrowserReads(const std::string& bytes) {
     return page.replace("</BR>", "<br>");
 }
 
-// A document that fetches nothing that its text names.
+// A document that fetches nothing that its text names. It is laid out for paper at once: a second
+// layout for the screen would take as long as the print.
 class PageDocument : public QTextDocument {
 public:
-    explicit PageDocument(QObject* parent = nullptr) : QTextDocument(parent) {
+    explicit PageDocument(QObject* parent) : QTextDocument(parent) {
         setUndoRedoEnabled(false);
+        setUseDesignMetrics(true);
         setDefaultFont(QFont({"Times New Roman", "Liberation Serif", "Serif"}, 12));
+        setDocumentMargin(MarginInches * LayoutDpi);
     }
 
 protected:
     QVariant loadResource(int, const QUrl&) override { return {}; }
 };
+
+QSizeF PaperSize(const QPrinter& printer) {
+    return QSizeF(printer.width(), printer.height()) * LayoutDpi / printer.logicalDpiX();
+}
 
 void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
     const QSizeF size = document.pageSize();
@@ -55,40 +62,38 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
 
 } // namespace
 
-HtmlView::HtmlView(QWidget* parent) : QTextBrowser(parent) {
-    setDocument(new PageDocument(this));
-    setOpenLinks(false);
-}
+HtmlView::HtmlView(QWidget* parent) : QWidget(parent), page_(new PageDocument(this)) {}
 
 void HtmlView::Navigate(const std::filesystem::path& file) {
     const FileText text = SystemFiles().read(file);
     if (!text.IsWhole())
         return;
-    page_ = AsBrowserReads(text.bytes);
-    setHtml(page_);
+    page_->setHtml(AsBrowserReads(text.bytes));
+    update();
     QTimer::singleShot(0, this, &HtmlView::navigateComplete);
 }
 
-bool HtmlView::PrintTo(QPrinter& printer) const {
+bool HtmlView::PrintTo(QPrinter& printer) {
     QPainter painter;
     if (!painter.begin(&printer))
         return false;
     const double scale = printer.logicalDpiX() / LayoutDpi;
     painter.scale(scale, scale);
-    // The size is set before the text, so that the text is laid out once.
-    PageDocument document;
-    document.setUseDesignMetrics(true);
-    document.setDocumentMargin(MarginInches * LayoutDpi);
-    document.setPageSize(QSizeF(printer.width(), printer.height()) / scale);
-    document.setHtml(page_);
-    const int count = document.pageCount();
+    page_->setPageSize(PaperSize(printer));
+    const int count = page_->pageCount();
     for (int number = 1; number <= count; ++number) {
-        DrawPage(painter, document, number);
+        DrawPage(painter, *page_, number);
         if (number < count && !printer.newPage())
             return false;
     }
     const auto state = printer.printerState();
     return painter.end() && state != QPrinter::Error && state != QPrinter::Aborted;
+}
+
+void HtmlView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    page_->drawContents(&painter, rect());
 }
 
 } // namespace emporium::ui

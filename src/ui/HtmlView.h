@@ -3,13 +3,14 @@
 #pragma once
 
 #include <QPrinter>
-#include <QTextBrowser>
+#include <QTextDocument>
+#include <QWidget>
 
 #include <filesystem>
 
 namespace emporium::ui {
 
-class HtmlView : public QTextBrowser {
+class HtmlView : public QWidget {
     Q_OBJECT
 
 public:
@@ -21,13 +22,18 @@ public:
 
     /// Prints the page as text, with page numbers. False if the printer, or the file that it
     /// prints to, failed.
-    bool PrintTo(QPrinter& printer) const;
+    bool PrintTo(QPrinter& printer);
+
+    QString Title() const { return page_->metaInformation(QTextDocument::DocumentTitle); }
 
 signals:
     void navigateComplete();
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
-    QString page_;
+    QTextDocument* page_;
 };
 
 } // namespace emporium::ui

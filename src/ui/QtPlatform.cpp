@@ -108,7 +108,7 @@ Platform QtPlatform(QWidget& window, const Mirror& mirror) {
 bool PrintPage(QWidget& window, HtmlView& page) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setDocName(page.documentTitle());
+    printer.setDocName(page.Title());
     QPrintDialog dialog(&printer, &window);
     dialog.setObjectName("PrintDialog");
     if (dialog.exec() != QDialog::Accepted)

@@ -44,13 +44,19 @@ ItemRecord Record(std::string nameLine, std::string_view regions = "") {
     return {std::move(nameLine), "1", "1D", "Text", std::string(regions)};
 }
 
+RecordView View(const ItemRecord& record) {
+    RecordView view;
+    std::copy(record.begin(), record.end(), view.begin());
+    return view;
+}
+
 // Draws with dice that show these faces, each of which has to be thrown.
 bool DrawWith(std::initializer_list<int> faces, const ItemRecord& record,
               const ShopWishes& wishes) {
     RegionTable regions = RegionInit();
     ScriptedPlatform script;
     script.Throw(faces);
-    const bool passes = DrawRecord(record, wishes, regions, script.platform.RollDice);
+    const bool passes = DrawRecord(View(record), wishes, regions, script.platform.RollDice);
     const std::vector<int> sides = {6, 20};
     EXPECT_TRUE(script.sides.size() == faces.size() &&
                 std::equal(script.sides.begin(), script.sides.end(), sides.begin()));
@@ -63,7 +69,7 @@ std::vector<bool> DrawMany(int count, const std::function<float()>& clock, const
     Dice dice(clock);
     std::vector<bool> passes;
     for (int i = 0; i < count; ++i)
-        passes.push_back(DrawRecord(record, wishes, regions,
+        passes.push_back(DrawRecord(View(record), wishes, regions,
                                     [&dice](std::int32_t n) { return dice.RollDice(n); }));
     return passes;
 }
