@@ -15,6 +15,7 @@ namespace {
 // Text and pictures are measured at this resolution, on the screen and, scaled, on paper.
 constexpr double LayoutDpi = 96;
 constexpr double MarginInches = 2 / 2.54;
+constexpr int NumberPixels = 14;
 
 // Qt's rich text drops "</BR>" and lets a line end join a heading with what follows; a browser
 // reads the first as a break and the second as nothing.
@@ -53,7 +54,9 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
     painter.translate(0, -page.top());
     painter.setClipRect(page);
     document.documentLayout()->draw(&painter, context);
-    painter.setFont(document.defaultFont());
+    QFont font = document.defaultFont();
+    font.setPixelSize(NumberPixels); // points would be scaled twice
+    painter.setFont(font);
     const double margin = document.documentMargin();
     painter.drawText(page.adjusted(margin, 0, -margin, -margin / 2),
                      Qt::AlignRight | Qt::AlignBottom, QString::number(number));

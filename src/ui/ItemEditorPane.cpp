@@ -266,7 +266,7 @@ void ItemEditorPane::LoadPictures() {
     itemDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
     itemSave_->SetPicture(LoadPicture(gfx / "save.bmp"));
     print_->SetPicture(LoadPicture(gfx / "Printfld.bmp"));
-    picture_->SetImage(LoadPicture(gfx / "shop.jpg"));
+    picture_->SetImage(LoadPictureFor(gfx / "shop.jpg", picture_->size()));
 }
 
 void ItemEditorPane::FocusName() {

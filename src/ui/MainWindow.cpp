@@ -86,8 +86,8 @@ void MainWindow::LoadPictures() {
     help_->SetPicture(LoadPicture(gfx / "helpklein.bmp"));
     itemEditor_->LoadPictures();
     shopEditor_->LoadPictures();
-    itemBackground_->SetImage(LoadPicture(gfx / "OrvanEmporium3ItemEditor.jpg"));
-    shopBackground_->SetImage(LoadPicture(gfx / "OrvanEmporium3ShopEditor.jpg"));
+    itemBackground_->SetImage(LoadPictureFor(gfx / "OrvanEmporium3ItemEditor.jpg", size()));
+    shopBackground_->SetImage(LoadPictureFor(gfx / "OrvanEmporium3ShopEditor.jpg", size()));
 }
 
 void MainWindow::MirrorWindow() {

@@ -2,6 +2,7 @@
 
 #include "ui/Text.h"
 
+#include <QGuiApplication>
 #include <QImageReader>
 
 namespace emporium::ui {
@@ -15,6 +16,15 @@ QImage LoadPicture(const std::filesystem::path& file) {
             largest = image;
     } while (reader.jumpToNextImage());
     return largest;
+}
+
+QImage LoadPictureFor(const std::filesystem::path& file, QSize place) {
+    QImageReader reader(PathText(file));
+    const QSize pixels = (QSizeF(place) * qGuiApp->devicePixelRatio()).toSize();
+    const QSize wanted = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
+    if (wanted.width() < reader.size().width())
+        reader.setScaledSize(wanted);
+    return reader.read();
 }
 
 } // namespace emporium::ui
