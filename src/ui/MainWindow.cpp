@@ -7,8 +7,17 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QPainter>
+#include <QScreen>
 
 namespace emporium::ui {
+
+namespace {
+
+void MoveToCentre(QWidget& window) {
+    window.move(window.screen()->availableGeometry().center() - window.rect().center());
+}
+
+} // namespace
 
 MainWindow::MainWindow(const std::filesystem::path& programFolder)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -22,6 +31,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
       shopBackground_(Named(new Picture(this), "imgTempShopEditor")) {
     setObjectName("frmEmporiumMain");
     setFixedSize(Px(9480), Px(6795));
+    MoveToCentre(*this);
     controls_->resize(size());
     browser_->hide();
     itemBackground_->hide();
@@ -43,6 +53,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     platform.Browser.Print = [this] { return PrintPage(*this, *browser_); };
     platform.ShowGeneratorDialog = [this] {
         session_.mirror.Update();
+        MoveToCentre(*generator_);
         generator_->exec();
     };
     platform.FocusItemName = [this] { itemEditor_->FocusName(); };
