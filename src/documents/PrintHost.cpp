@@ -15,7 +15,7 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     while (!host.PreviewReady) {
         if (!platform.ProcessEvents())
             return Wait::WindowClosed;
-        if (Clock::now() > deadline)
+        if (!host.PreviewReady && Clock::now() > deadline)
             return Wait::TimedOut;
     }
     return Wait::Ready;

@@ -156,7 +156,7 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
 
 std::string FaultsText(const std::vector<std::string>& faults) {
     constexpr std::size_t shown = 12;
-    std::string text = "Nicht alle Daten konnten gelesen werden:\n";
+    std::string text = "Nicht alles ist gelungen:\n";
     for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
         text += "\n" + faults[i];
     if (faults.size() > shown)

@@ -20,8 +20,11 @@ bool IsOwnFile(std::string_view name) {
 
 // A file whose name differs at most in case; on Windows that is the same file.
 bool FileStands(const Folders& folders, std::string_view name) {
-    const std::string wanted = FoldCase(FromPath(CategoryPath(folders, name).filename()));
+    const std::filesystem::path file = CategoryPath(folders, name);
     std::error_code error;
+    if (std::filesystem::exists(file, error))
+        return true;
+    const std::string wanted = FoldCase(FromPath(file.filename()));
     for (std::filesystem::directory_iterator entry(folders.EmporiumFolder(), error), end;
          !error && entry != end; entry.increment(error))
         if (FoldCase(FromPath(entry->path().filename())) == wanted)

@@ -56,8 +56,11 @@ void SetUpApplication(QApplication& application) {
     if (translator->load(":/qtbase_de.qm"))
         QApplication::installTranslator(translator);
 
-    if (!QApplication::style()->objectName().startsWith("windows"))
+    if (!QApplication::style()->objectName().startsWith("windows")) {
         QApplication::setStyle(QStyleFactory::create("Fusion"));
+        // A desktop's own file dialog would speak the desktop's language.
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
     QApplication::setPalette(LightPalette());
     QApplication::setFont(WindowFont());
 }

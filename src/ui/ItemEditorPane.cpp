@@ -65,25 +65,18 @@ void ItemEditorPane::BuildList(QWidget* window) {
     });
     connect(list_, &ListTable::headerClicked, this,
             [&](int column) { session_.Do([&] { SortItemList(items, column); }); });
-    const auto confirmDelete = [&] {
+    connect(list_, &ListTable::deletePressed, this, [&] {
         session_.Do([&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
-    };
-    connect(list_, &ListTable::deletePressed, this, confirmDelete);
+    });
 
-    itemNew_ = new PictureButton(frame, "Neuen Gegenstand erstellen", "+");
-    itemDelete_ = new PictureButton(frame, "Gewählten Gegenstand löschen", "–");
-    itemSave_ = new PictureButton(frame, "Gegenstand speichern", "✓");
-    Place(Named(itemNew_, "cmdItemNeu"), 120, 5400, 375, 375);
-    Place(Named(itemDelete_, "cmdItemDelete"), 480, 5400, 375, 375);
-    Place(Named(itemSave_, "cmdItemSave"), 840, 5400, 375, 375);
-    session_.mirror.Bind(itemNew_, items.cmdItemNeu);
-    session_.mirror.Bind(itemDelete_, items.cmdItemDelete);
-    session_.mirror.Bind(itemSave_, items.cmdItemSave);
-    connect(itemNew_, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { StartNewItem(items, session_.platform); }); });
-    connect(itemDelete_, &QPushButton::clicked, this, confirmDelete);
-    connect(itemSave_, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { SaveItem(items, session_.platform, state.folders); }); });
+    itemNew_ = BuildButton(frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen", "+",
+                           items.cmdItemNeu, [&] { StartNewItem(items, session_.platform); });
+    itemDelete_ = BuildButton(frame, "cmdItemDelete", 480, 5400, "Gewählten Gegenstand löschen",
+                              "–", items.cmdItemDelete,
+                              [&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
+    itemSave_ =
+        BuildButton(frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓", items.cmdItemSave,
+                    [&] { SaveItem(items, session_.platform, state.folders); });
 
     auto* add = Place(Named(new QPushButton(">", window), "cmdItemHin"), 3240, 2160, 495, 3615);
     add->setToolTip("Gegenstand dem Shopangebot hinzufügen");
@@ -105,25 +98,29 @@ void ItemEditorPane::BuildCategories(CaptionFrame* parent) {
         session_.Do([&] { ChooseCategory(items, session_.platform, state.folders, index); });
     });
 
-    categoryNew_ = new PictureButton(frame, "Neue Kategorie erstellen", "+");
-    categoryDelete_ = new PictureButton(frame, "Gewählte Kategorie löschen", "–");
-    print_ = new PictureButton(frame, "Gegenstandsliste drucken", "▤");
-    Place(Named(categoryNew_, "cmdKategorieNeu"), 120, 600, 375, 375);
-    Place(Named(categoryDelete_, "cmdKategorieDelete"), 480, 600, 375, 375);
-    Place(Named(print_, "cmdListeDrucken"), 840, 600, 375, 375);
-    session_.mirror.Bind(categoryNew_, items.cmdKategorieNeu);
-    session_.mirror.Bind(categoryDelete_, items.cmdKategorieDelete);
-    session_.mirror.Bind(print_, items.cmdListeDrucken);
-    connect(categoryNew_, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { NewCategory(items, session_.platform, state.folders); }); });
-    connect(categoryDelete_, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { DeleteCategory(items, session_.platform, state.folders); }); });
-    connect(print_, &QPushButton::clicked, this, [&] {
-        session_.Do([&] {
-            PrintTempDocument(state.print, session_.platform, state.folders,
-                              [&items](std::string& file) { WriteItemList(items, file); });
-        });
-    });
+    categoryNew_ = BuildButton(frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
+                               items.cmdKategorieNeu,
+                               [&] { NewCategory(items, session_.platform, state.folders); });
+    categoryDelete_ = BuildButton(frame, "cmdKategorieDelete", 480, 600,
+                                  "Gewählte Kategorie löschen", "–", items.cmdKategorieDelete,
+                                  [&] { DeleteCategory(items, session_.platform, state.folders); });
+    print_ = BuildButton(frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤",
+                         items.cmdListeDrucken, [&] {
+                             PrintTempDocument(
+                                 state.print, session_.platform, state.folders,
+                                 [&items](std::string& file) { WriteItemList(items, file); });
+                         });
+}
+
+PictureButton* ItemEditorPane::BuildButton(QWidget* parent, const char* name, int left, int top,
+                                           const QString& toolTip, const QString& text,
+                                           const Button& state,
+                                           const std::function<void()>& operation) {
+    auto* button = new PictureButton(parent, toolTip, text);
+    Place(Named(button, name), left, top, 375, 375);
+    session_.mirror.Bind(button, state);
+    connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
+    return button;
 }
 
 QWidget* ItemEditorPane::AddPage(const QString& caption) {

@@ -29,6 +29,9 @@ private:
     void BuildProperties();
     void BuildAvailability();
     void BuildNotice();
+    PictureButton* BuildButton(QWidget* parent, const char* name, int left, int top,
+                               const QString& toolTip, const QString& text, const Button& state,
+                               const std::function<void()>& operation);
     LineField* BuildText(QWidget* parent, std::size_t field);
 
     Session& session_;

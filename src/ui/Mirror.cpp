@@ -29,6 +29,13 @@ QStringList Texts(const QListWidget& list) {
     return strings;
 }
 
+template <typename List> void ShowEntries(List& widget, const QStringList& entries) {
+    if (Texts(widget) == entries)
+        return;
+    widget.clear();
+    widget.addItems(entries);
+}
+
 } // namespace
 
 void Mirror::Bind(QAbstractButton* widget, const Button& state) {
@@ -45,11 +52,7 @@ void Mirror::Bind(LineField* widget, const TextField& state) {
 void Mirror::Bind(QComboBox* widget, const ChoiceList& state) {
     Bind([widget, &state] {
         const QSignalBlocker quiet(widget);
-        const QStringList entries = ToStrings(state.Entries());
-        if (Texts(*widget) != entries) {
-            widget->clear();
-            widget->addItems(entries);
-        }
+        ShowEntries(*widget, ToStrings(state.Entries()));
         widget->setCurrentIndex(state.Selection());
         widget->setEnabled(state.enabled);
         widget->setToolTip(ToToolTip(state.toolTip));
@@ -59,11 +62,7 @@ void Mirror::Bind(QComboBox* widget, const ChoiceList& state) {
 void Mirror::Bind(QListWidget* widget, const ChoiceList& state) {
     Bind([widget, &state] {
         const QSignalBlocker quiet(widget);
-        const QStringList entries = ToStrings(state.Entries());
-        if (Texts(*widget) != entries) {
-            widget->clear();
-            widget->addItems(entries);
-        }
+        ShowEntries(*widget, ToStrings(state.Entries()));
         widget->setCurrentRow(state.Selection());
     });
 }

@@ -151,7 +151,7 @@ TEST_F(GenerateShops, FilesThatCannotBeReadAreNamed) {
             return FileText{
                 FileText::State::Unreadable, {}, std::make_error_code(std::errc::io_error)};
         };
-        script.ExpectMessage("Nicht alle Daten konnten gelesen werden:\n\n" + name +
+        script.ExpectMessage("Nicht alles ist gelungen:\n\n" + name +
                              ": Beim Lesen oder Schreiben ist ein Fehler aufgetreten.");
         EXPECT_EQ(Wares(), wares);
     }

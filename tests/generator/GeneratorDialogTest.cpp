@@ -87,7 +87,7 @@ TEST_F(GeneratorDialog, ATypeListThatGivesNothingLeavesTheDialogUsable) {
         std::filesystem::remove(file);
         if (*reason == 'A')
             std::filesystem::create_directory(file);
-        script.ExpectMessage(std::string("Nicht alle Daten konnten gelesen werden:\n\n"
+        script.ExpectMessage(std::string("Nicht alles ist gelungen:\n\n"
                                          "ShopgeneratorShops.dat: ") +
                              reason);
         OpenGenerator(dialog, shop, script.platform, program.folders);

@@ -159,7 +159,7 @@ TEST(CategoryChoice, AViewTakesAsManyRowsAsTheirNumbersReach) {
     bytes += Lines({"Neu1", "", "1D", "", ""});
     EXPECT_TRUE(world.File("Abakus") == bytes);
 
-    const std::string told = "Nicht alle Daten konnten gelesen werden:\n\nAbakus.dat: Die Ansicht";
+    const std::string told = "Nicht alles ist gelungen:\n\nAbakus.dat: Die Ansicht";
     world.script.ExpectMessage(told);
     world.View("Alles");
     EXPECT_EQ(world.editor.ItemCount(), MaxRows);

@@ -163,7 +163,7 @@ TEST(ItemSaving, AFileThatWasNotReadWholeIsNeverWritten) {
     const std::string cutOff = world.File("Kleidung") + "Rest1\r\n";
     world.program.Write("Emporium/Kleidung.dat", cutOff);
     for (const std::string_view view : {"Kleidung", "Alles"}) {
-        world.script.ExpectMessage("Nicht alle Daten konnten gelesen werden:\n\nKleidung.dat: ");
+        world.script.ExpectMessage("Nicht alles ist gelungen:\n\nKleidung.dat: ");
         world.View(view);
         world.FormCategory("Kleidung");
         world.Fill(Hat);
