@@ -143,5 +143,51 @@ TEST(InterruptedWrites, WithoutAWholeJournalNothingButTemporariesGoes) {
     EXPECT_TRUE(fs::exists(disk.folder / "a.dat.orvan-neu0"));
 }
 
+TEST(FileWriting, ContentsGoToTheDiskByteForByteInHoweverManyWrites) {
+    const Disk disk;
+    FileLayer files = SystemFiles();
+    files.write = [real = files.write](FileLayer::Handle handle, std::string_view bytes,
+                                       std::size_t& written) {
+        return real(handle, bytes.substr(0, 3), written);
+    };
+    for (const std::string& contents : {std::string("a\0\xE4\n\r\n\x1A", 7), std::string()}) {
+        EXPECT_TRUE(disk.Write({{"a.dat", contents}}, files).value());
+        EXPECT_EQ(disk.program.Read("Emporium/a.dat"), contents);
+    }
+    files.write = [](FileLayer::Handle, std::string_view, std::size_t&) {
+        return std::error_code();
+    };
+    EXPECT_FALSE(disk.Write({{"a.dat", "neu"}}, files).value()) << "must not try for ever";
+}
+
+TEST(FileWriting, WhatStandsInTheWayIsRefused) {
+    const Disk disk;
+    fs::permissions(disk.folder / "b.dat", fs::perms::owner_read);
+    fs::create_directory(disk.folder / "d.dat");
+    const State before = disk.Look();
+    for (const Changes& changes : {Changes{{"a.dat", "neu"}, {"b.dat", "neu"}},
+                                   {{"a.dat", "neu"}, {"b.dat", std::nullopt}},
+                                   {{"d.dat", "neu"}},
+                                   {{"fehlt/a.dat", "neu"}}}) {
+        EXPECT_FALSE(disk.Write(changes, SystemFiles()).value());
+        EXPECT_EQ(disk.Look(), before);
+    }
+}
+
+TEST(Journal, OnlyAWholeJournalIsRead) {
+    const std::string text = JournalText({{u8"Öl 1.dat.orvan-neu0", u8"Öl 1.dat", 0, Checksum("")},
+                                          {"", "../fern/b.dat", 1U << 31U, Checksum("b")}});
+    const auto read = ReadJournal(text);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(JournalText(*read), text);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        EXPECT_FALSE(ReadJournal(text.substr(0, i))) << i;
+        std::string damaged = text;
+        damaged[i] = static_cast<char>(damaged[i] ^ 1);
+        EXPECT_FALSE(ReadJournal(damaged)) << i;
+    }
+    EXPECT_FALSE(ReadJournal(text + text));
+}
+
 } // namespace
 } // namespace emporium::test

@@ -1,16 +1,19 @@
 #include "base/Subs.h"
 #include "base/Ansi.h"
+#include "base/GermanNumber.h"
+#include "base/GermanOrder.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <utility>
-#include <vector>
+#include <numeric>
 
 namespace emporium::test {
 namespace {
+
+using Texts = std::vector<std::string_view>;
 
 TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
     const IniFile ini(
@@ -20,7 +23,7 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
         "Ware9=\r\nWARE1=zweiter Schlüssel\r\nWare10=a=b\r\nohne Gleichheit\r\n"
         "[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi);
-    const std::vector<std::pair<std::string_view, std::string_view>> values = {
+    const std::pair<std::string_view, std::string_view> values[] = {
         {" wARE1\t", "Öle und Fette"_ansi},
         {"Ware2", "Seile;Taue # Netze"},
         {"#Ware3", "kein Kommentar"},
@@ -30,76 +33,92 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         {"Ware6", "\"offen"},
         {"Ware7", "'gemischt\""},
         {"Ware8", "\""},
-        {"Ware9", ""},
         {"Ware10", "a=b"},
         {"Ware11", ""},
         {"vorher", ""}};
     for (const auto& [key, value] : values)
         EXPECT_EQ(ini.Value(" gROßER kRÄMER"_ansi, key), value) << key;
     EXPECT_EQ(ini.Value("ärmel"_ansi, "ü"_ansi), "letzte Zeile");
-    EXPECT_EQ(ini.Value("Großer Kramer"_ansi, "Ware1") + ini.Value("", "vorher"), "");
-}
-
-TEST(IniFile, AValueHasAtMost254CharactersAndAMissingFileHasNone) {
-    ProgramFolder program;
     const std::string text(300, 'x');
-    program.Write("Atlas/a.dat", "[a]\nb=" + text + "\nc=\"" + text.substr(0, 254) + "\"\n");
-    const auto folder = program.folders.DataFolder / "Atlas";
-    for (const char* key : {"b", "c"})
-        EXPECT_EQ(ReadIniValue(SystemFiles(), folder / "a.dat", "a", key), text.substr(0, 254));
-    EXPECT_EQ(ReadIniValue(SystemFiles(), folder / "fehlt.dat", "a", "b"), "");
-    EXPECT_EQ(ReadIniValue(SystemFiles(), folder, "a", "b"), "");
+    EXPECT_EQ(IniFile("[a]\nb=" + text).Value("a", "b"), text.substr(0, 254));
 }
 
 TEST(FileExists, OnlyNormalFilesCount) {
     ProgramFolder program;
-    for (const auto name : {"Kräuter.dat"_ansi, ".versteckt.txt"_ansi, "fest.dat"_ansi, "x"_ansi})
+    for (const auto name : {"Kräuter.dat"_ansi, ".versteckt.txt"_ansi, "x"_ansi})
         program.Write(std::string("Atlas/").append(name), "");
     const auto folder = program.folders.DataFolder / "Atlas";
-    std::filesystem::permissions(folder / "fest.dat", std::filesystem::perms::owner_read);
     std::filesystem::create_directory(folder / "Ordner.ini");
-    for (const auto name : {"Kräuter.dat"_ansi, "fest.dat"_ansi, "*.dat"_ansi, "*"_ansi, "?"_ansi,
-                            "Kr?uter.dat"_ansi, "K*u*r.*t"_ansi, "*ä*"_ansi, "fest.dat*"_ansi})
+    for (const auto name : {"Kräuter.dat"_ansi, "*.dat"_ansi, "*"_ansi, "?"_ansi,
+                            "Kr?uter.dat"_ansi, "K*u*r.*t"_ansi, "*ä*"_ansi, "x*"_ansi})
         EXPECT_TRUE(FileExists(folder / ToPath(name))) << name;
     for (const auto name :
-         {"Kräuter.da"_ansi, "fehlt.dat"_ansi, "Ordner.ini"_ansi, "*.ini"_ansi,
-          ".versteckt.txt"_ansi, "*.txt"_ansi, "Kr??uter.dat"_ansi, "??"_ansi, "K*u*r.*tt"_ansi,
-          "*ö*"_ansi, "fest.dat?"_ansi, "fest.dat/a"_ansi, "fehlt/*"_ansi, ""_ansi})
+         {"Kräuter.da"_ansi, "Ordner.ini"_ansi, "*.ini"_ansi, ".versteckt.txt"_ansi, "*.txt"_ansi,
+          "Kr??uter.dat"_ansi, "??"_ansi, "K*u*r.*tt"_ansi, "*ö*"_ansi, "x?"_ansi, "x/a"_ansi,
+          "fehlt/*"_ansi, ""_ansi})
         EXPECT_FALSE(FileExists(folder / ToPath(name))) << name;
-}
-
-std::vector<int> Throws(float clock, int sides, int count) {
-    Dice dice([clock] { return clock; });
-    std::vector<int> throws(static_cast<std::size_t>(count));
-    for (int& result : throws)
-        result = dice.RollDice(sides);
-    return throws;
 }
 
 TEST(Dice, EveryFaceAndEveryPairOfFacesIsEquallyLikelyWithinOneTick) {
     constexpr int perPair = 1000;
     for (const float clock : {0.0F, 43210.5F, 86399.99F})
         for (const int sides : {2, 6, 20}) {
-            const auto throws = Throws(clock, sides, sides * sides * perPair + 1);
+            Dice dice([clock] { return clock; });
             std::vector<int> pairs(static_cast<std::size_t>(sides * sides));
-            for (std::size_t i = 1; i < throws.size(); ++i) {
-                ASSERT_TRUE(throws[i] >= 1 && throws[i] <= sides) << throws[i];
-                ++pairs[static_cast<std::size_t>((throws[i - 1] - 1) * sides + throws[i] - 1)];
+            int before = dice.RollDice(sides);
+            for (int i = 0; i < sides * sides * perPair; ++i) {
+                const int face = dice.RollDice(sides);
+                ASSERT_TRUE(face >= 1 && face <= sides) << face;
+                ++pairs[static_cast<std::size_t>((before - 1) * sides + face - 1)];
+                before = face;
             }
             for (const int count : pairs)
                 EXPECT_NEAR(count, perPair, 5.5 * std::sqrt(perPair)) << clock << " " << sides;
+            for (const int odd : {1, 0, -5})
+                EXPECT_EQ(dice.RollDice(odd), 1);
         }
 }
 
-TEST(Dice, EveryThrowReadsTheClockAndStaysInItsRange) {
-    EXPECT_NE(Throws(1.0F, 1000, 20), Throws(std::nextafter(1.0F, 2.0F), 1000, 20));
-    int readings = 0;
-    Dice dice([&readings] { return static_cast<float>(++readings); });
-    for (const int sides : {1, 0, -5})
-        EXPECT_EQ(dice.RollDice(sides), 1);
-    EXPECT_EQ(readings, 3);
-    for (const int result : Throws(7.0F, std::numeric_limits<std::int32_t>::max(), 1000))
-        ASSERT_GE(result, 1);
+TEST(Ansi, EveryByteSurvivesTheWayThroughUtf8AndFoldsAsInWindows) {
+    std::string all(256, '\0');
+    std::iota(all.begin(), all.end(), '\0');
+    EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+    EXPECT_EQ(FromPath(ToPath(all.substr(1))), all.substr(1));
+    EXPECT_TRUE(ToUtf8("a\x80\x81\x9F\xA0\xFF") == u8"a\u20AC\u0081\u0178\u00A0ÿ");
+    EXPECT_EQ(FromUtf8(u8"a→b𝄞c\u0080d€"), "a?b?c?d\x80");
+    EXPECT_EQ(FoldCase("AZÀÄÖÜÞŠŒŽŸß×÷µƒ@[`{"_ansi), "azàäöüþšœžÿß×÷µƒ@[`{"_ansi);
+}
+
+TEST(GermanOrder, UmlautsStandWithTheirBaseLetters) {
+    const Texts ordered = {"",           " Zelt",         "12D",         "2D",       "A",
+                           "a",          "Ä"_ansi,        "ä"_ansi,      "Aal",      "Affe",
+                           "Ähre"_ansi,  "AMT",           "Amt",         "amt",      "Apfel",
+                           "Äpfel"_ansi, "Apfelbaum",     "Ofen",        "Öl"_ansi,  "Ölkanne"_ansi,
+                           "PU",         "Strasse",       "Straße"_ansi, "Strassen", "SÜ"_ansi,
+                           "TH",         "Übertopf"_ansi, "Ulme",        "Zelt"};
+    for (std::size_t i = 0; i < ordered.size(); ++i)
+        for (std::size_t j = 0; j < ordered.size(); ++j)
+            EXPECT_EQ(GermanLess(ordered[i], ordered[j]), i < j) << ordered[i] << " " << ordered[j];
+}
+
+TEST(GermanNumber, ACommaSeparatesDecimalsAndPointsCountForNothing) {
+    const std::pair<std::string, double> numbers[] = {
+        {"012", 12},         {" \t12,5 ", 12.5},
+        {"1.234,5", 1234.5}, {",5", 0.5},
+        {"5,", 5},           {"-3,25", -3.25},
+        {"1.2.3.", 123},     {std::string(400, '9'), std::numeric_limits<double>::infinity()}};
+    for (const auto& [text, number] : numbers)
+        EXPECT_EQ(ReadGermanNumber(text), number) << text;
+    for (const char* text :
+         {"",    " ",   "-",   ",",   ".",   "-,",  "1,2,3", "1,2.3", "12a",   "a12",
+          "12D", "1e5", "0x1", "inf", "nan", "- 3", "3-",    "+-3",   "1 000", "\xBD"})
+        EXPECT_EQ(ReadGermanNumber(text), std::nullopt) << text;
+    const std::pair<double, int> rounded[] = {
+        {0.5, 0},       {1.5, 2},           {2.5, 2},         {2.5000001, 3},   {2.4999999, 2},
+        {-1.5, -2},     {-2.5, -2},         {32766.5, 32766}, {32766.6, 32767}, {32768, 32767},
+        {1e300, 32767}, {-32767.4, -32767}, {-32769, -32768}, {-1e300, -32768}};
+    for (const auto& [number, whole] : rounded)
+        EXPECT_EQ(RoundToInt16(number), whole) << number;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "base/Ansi.h"
 #include "documents/ItemListDocument.h"
+#include "documents/PrintHost.h"
 #include "documents/ShopDocument.h"
 #include "itemeditor/ItemList.h"
 #include "regions/Availability.h"
@@ -11,12 +12,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 
 namespace emporium::test {
 namespace {
-
-namespace fs = std::filesystem;
 
 std::string Head(std::string_view title) {
     return Lines(
@@ -89,20 +87,6 @@ TEST(ShopDocument, ThePrintFormShowsTheRegionsAndNoUnit) {
             Lines({"</table>"}));
 }
 
-TEST(ShopDocument, TheNumberOfLinesFollowsTheNumberOfWares) {
-    for (const int wares : {0, 1, 40}) {
-        ShopEditor shop;
-        for (int i = 0; i < wares; ++i)
-            AddShopRow(shop, MakeShopRow("Seil2", "1", "1S", ""));
-        std::string exported, printed;
-        WriteShopExport(shop, exported);
-        WriteShopPrint(shop, printed);
-        EXPECT_EQ(std::count(exported.begin(), exported.end(), '\n'), 22 + 5 * wares);
-        EXPECT_EQ(std::count(printed.begin(), printed.end(), '\n'), 21 + 6 * wares);
-        EXPECT_NE(exported.find("<H1></H1>\r\n<B>Name des Shops: </B> </BR>\r\n"), exported.npos);
-    }
-}
-
 TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
@@ -126,49 +110,40 @@ TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
     EXPECT_EQ(byPrice, top + tongs + axe + ear + bottom);
 }
 
-class Export : public testing::Test {
-protected:
-    void Run(const fs::path& chosen) {
-        script.platform.ShowSave = [&](const fs::path& folder, std::string_view filter) {
-            EXPECT_EQ(folder, program.folders.HtmlFolder);
-            EXPECT_EQ(filter, "HTML-Dateien (*.html)|*.html");
-            return chosen;
-        };
-        ExportShop(shop, script.platform, program.folders);
-    }
-
-    ProgramFolder program;
+TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
+    const ProgramFolder program;
     ScriptedPlatform script;
-    ShopEditor shop = FilledShop();
-    fs::path target = program.folders.HtmlFolder / "laden";
-};
-
-TEST_F(Export, TheFileIsThePageAndIsShownOnlyIfWanted) {
-    Run({});
-    EXPECT_TRUE(fs::is_empty(program.folders.HtmlFolder));
-    std::string page;
-    WriteShopExport(shop, page);
-    std::ofstream(target) << std::string(20'000, 'x');
-    for (const bool show : {false, true}) {
-        script.ExpectYesNo(
-            "Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?.", show);
-        Run(target);
-        EXPECT_EQ(SystemFiles().read(target).bytes, page);
-        EXPECT_EQ(script.viewed, std::vector<fs::path>(show ? 1 : 0, target));
-    }
-}
-
-TEST_F(Export, AFileThatCannotBeWrittenIsNamedAndStaysUnharmed) {
-    std::ofstream(target) << "alt";
-    fs::permissions(target, fs::perms::owner_read);
-    const auto missing = program.folders.HtmlFolder / "fehlt" / "laden.html";
-    for (const fs::path& file : {target, missing, program.folders.HtmlFolder}) {
-        script.ExpectMessage(
-            "Der Shop konnte nicht gespeichert werden.\n\nDatei: " + file.string() + "\nGrund: ");
-        Run(file);
-    }
-    EXPECT_EQ(SystemFiles().read(target).bytes, "alt");
-    EXPECT_EQ(std::distance(fs::directory_iterator(program.folders.HtmlFolder), {}), 1);
+    PrintHost host;
+    int rounds = 0;
+    std::string log;
+    const auto print = [&](std::string_view document) {
+        log.clear();
+        PrintTempDocument(host, script.platform, program.folders,
+                          [&](std::string& file) { file = document; });
+        EXPECT_FALSE(host.busy || host.PreviewReady);
+        return log;
+    };
+    script.platform.Browser.SetVisible = [&](bool visible) { log += visible ? "show " : "hide "; };
+    script.platform.Browser.Navigate = [&](const std::filesystem::path& file) {
+        EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
+        log += "load[" + SystemFiles().read(file).bytes + "] ";
+    };
+    script.platform.Browser.Print = [&] { return log += "print ", true; };
+    script.platform.ProcessEvents = [&] {
+        PrintTempDocument(host, script.platform, program.folders,
+                          [](std::string&) { ADD_FAILURE() << "a second print during the wait"; });
+        host.PreviewReady = ++rounds == 3;
+        return true;
+    };
+    host.PreviewReady = true;
+    EXPECT_EQ(print("ein langes Dokument"), "show load[ein langes Dokument] print hide ");
+    EXPECT_EQ(rounds, 3);
+    script.platform.PreviewTimeout = std::chrono::milliseconds(20);
+    script.ExpectMessage("Die Druckseite konnte nicht geladen werden.\n\nDatei: ");
+    EXPECT_EQ(print("kurz"), "show load[kurz] hide ") << "the page never comes";
+    std::filesystem::remove_all(program.folders.TempFolder);
+    script.ExpectMessage("Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ");
+    EXPECT_EQ(print("neu"), "show hide ");
 }
 
 } // namespace

@@ -1,8 +1,3 @@
-#include "itemeditor/ItemSaving.h"
-
-#include "base/Ansi.h"
-#include "itemeditor/CategoryChoice.h"
-#include "itemeditor/ItemForm.h"
 #include "support/EditorAtWork.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +8,6 @@ namespace {
 const ItemRecord Hat = {"Hut2", "1,5", "12S", "Spitz", "BO|TH|"};
 const ItemRecord Coat = {"mantel2", "-1.", "100D", std::string("Für \u0081 den Regen"_ansi),
                          std::string("SÜ|"_ansi)};
-constexpr std::string_view AskForCategory = "Bitte wählt im Feld Kategorie"_ansi;
 
 enum class Box { None, Yes, No };
 
@@ -77,13 +71,10 @@ TEST(ItemSaving, EveryRoadChangesItsFilesAndEndsWithAnEmptyForm) {
         }
         SCOPED_TRACE(std::string(road.view).append(" to ").append(road.formCategory));
         Prepare(world, road);
-        const int row = world.editor.CurrentItemRow;
         Take(world, road);
         EXPECT_EQ(world.Files(), files);
-        EXPECT_EQ(world.editor.CurrentItemRow, std::max(row, 0)) << "or the one that follows";
         EXPECT_EQ(RecordOfForm(world.editor), ItemRecord());
-        EXPECT_FALSE(world.editor.EditingExisting || world.editor.cmdItemSave.enabled);
-        EXPECT_EQ(world.editor.cmbItemKategorien.Text(), road.formCategory) << "asks again";
+        EXPECT_EQ(world.editor.cmbItemKategorien.Text(), road.formCategory);
     }
 }
 
@@ -99,63 +90,15 @@ TEST(ItemSaving, AFailureChangesNothingOnAnyRoad) {
                 world.Open("Zopf");
             },
             [](EditorAtWork& world) { world.Delete(true); });
-}
-
-TEST(ItemSaving, ANewItemWithoutAHomeWaitsForACategoryInTheForm) {
-    EditorAtWork world;
-    world.View("Alles");
-    world.Fill(Hat);
-    ExpectRefusal(world, AskForCategory);
-    world.script.ExpectText(NamePrompt, "Zelte");
-    NewCategory(world.editor, world.script.platform, world.program.folders);
-    world.FormCategory("Zelte"); // made since the view was loaded
-    world.Save();
-    EXPECT_EQ(world.File("Zelte"), RecordLines({Hat}));
-
-    world.View("Abakus");
-    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
-    DeleteCategory(world.editor, world.script.platform, world.program.folders);
-    world.Fill(Hat);
-    ExpectRefusal(world, AskForCategory);
-    world.FormCategory("Alles");
-    ExpectRefusal(world, AskForCategory);
-    world.FormCategory("Nahkampfwaffen");
-    world.Save();
-    EXPECT_TRUE(world.File("Nahkampfwaffen").ends_with(RecordLines({Hat})));
-    EXPECT_EQ(world.editor.cmbKategorien.Text(), "Nahkampfwaffen") << "it is shown where it went";
-    EXPECT_EQ(world.Rows(), "Dolch Hut");
-    EXPECT_EQ(RecordOfForm(world.editor), ItemRecord());
-}
-
-TEST(ItemSaving, TheLastItemCanGoAndANewOneCome) {
-    EditorAtWork world;
-    world.Delete(); // nothing is chosen, nothing is asked
-    world.View("Rüstungen"_ansi);
-    world.Open("Helm");
-    const auto state = world.State();
-    world.Delete(false);
-    EXPECT_EQ(world.State(), state) << "a No keeps what the form holds";
-    world.Delete(true);
-    EXPECT_EQ(world.File("Rüstungen"_ansi), "");
-    EXPECT_EQ(world.editor.CurrentItemRow, -1);
-    EXPECT_EQ(world.editor.lvGegenstände.toolTip, "") << "it named the row";
-    EXPECT_FALSE(world.editor.cmdItemDelete.enabled || world.editor.cmdItemHin.enabled);
-    world.Delete();
-    world.Fill(Hat);
-    EXPECT_TRUE(world.editor.cmdItemSave.enabled);
-    world.Save();
-    EXPECT_EQ(world.File("Rüstungen"_ansi), RecordLines({Hat}));
-    EXPECT_EQ(world.editor.CurrentItemRow, 0);
-    EXPECT_TRUE(world.editor.cmdItemDelete.enabled && world.editor.cmdItemHin.enabled);
-}
-
-TEST(ItemSaving, NoRecordIsWrittenWithoutItsUnit) {
-    EditorAtWork world;
-    for (const Road& road : Roads) {
-        Prepare(world, road);
-        world.editor.cmbItemPreis.Select(-1);
-        ExpectRefusal(world, "Bitte wählt zum Preis auch"_ansi);
-    }
+    const auto empty = [](EditorAtWork& world) { world.View("Abakus"); };
+    ExpectAllOrNothing(empty, [](EditorAtWork& world) {
+        world.script.ExpectText(NamePrompt, "Zelte");
+        NewCategory(world.editor, world.script.platform, world.program.folders);
+    });
+    ExpectAllOrNothing(empty, [](EditorAtWork& world) {
+        world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+        DeleteCategory(world.editor, world.script.platform, world.program.folders);
+    });
 }
 
 TEST(ItemSaving, AFileThatWasNotReadWholeIsNeverWritten) {
@@ -177,16 +120,48 @@ TEST(ItemSaving, AFileThatWasNotReadWholeIsNeverWritten) {
         world.Delete();
         EXPECT_EQ(world.State(), state);
     }
-    world.Open("Helm"); // the others can be written as ever
-    world.Fill(Hat);
-    world.Save();
-    EXPECT_EQ(world.File("Rüstungen"_ansi), RecordLines({Hat}));
     world.View("Nahkampfwaffen");
     world.Open("Dolch");
     world.FormCategory("Kleidung");
     world.script.ExpectYesNo(MoveQuestion, true);
     ExpectRefusal(world, "Kleidung.dat: ");
     EXPECT_EQ(world.File("Kleidung"), cutOff);
+}
+
+TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
+    EditorAtWork world;
+    std::string bytes;
+    for (int i = 0; i < MaxRows; ++i)
+        bytes += "Ding1\r\n\r\n1H\r\n\r\n\r\n";
+    world.program.Write("Emporium/Abakus.dat", bytes);
+    world.View("Abakus");
+    EXPECT_EQ(world.editor.ItemCount(), MaxRows);
+    world.Fill({"Neu1", "", "1D", "", ""});
+    world.script.ExpectMessage("Die Ansicht ist voll");
+    world.Save();
+    world.Delete(true);
+    bytes.resize(bytes.size() - 17);
+    EXPECT_TRUE(world.File("Abakus") == bytes);
+    world.Fill({"Neu1", "", "1D", "", ""});
+    world.Save();
+    bytes += Lines({"Neu1", "", "1D", "", ""});
+    EXPECT_TRUE(world.File("Abakus") == bytes);
+
+    const std::string told = "Nicht alles ist gelungen:\n\nAbakus.dat: Die Ansicht";
+    world.script.ExpectMessage(told);
+    world.View("Alles");
+    EXPECT_EQ(world.editor.ItemCount(), MaxRows);
+    world.script.ExpectMessage("Abakus.dat: ");
+    world.Open(MaxRows - 1);
+    EditItemText(world.editor, NameText, "anders");
+    world.Save();
+    world.program.Write("Emporium/Abakus.dat", bytes += "Ding1\r\n\r\n1H\r\n\r\n\r\n");
+    world.script.ExpectMessage(told);
+    world.View("Abakus");
+    world.script.ExpectYesNo(DeleteQuestion, true);
+    world.script.ExpectMessage("Abakus.dat: ");
+    world.Delete();
+    EXPECT_TRUE(world.File("Abakus") == bytes);
 }
 
 } // namespace

@@ -1,8 +1,4 @@
-#include "base/Ansi.h"
 #include "base/GermanOrder.h"
-#include "itemeditor/CategoryChoice.h"
-#include "itemeditor/ItemForm.h"
-#include "itemeditor/ItemList.h"
 #include "support/EditorAtWork.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +30,7 @@ struct Model {
     int column = ItemNameColumn;
     bool descending = false;
 
-    bool IsCategory(const std::string& name) const { return files.count(name) > 0; }
+    bool IsCategory(const std::string& name) const { return files.contains(name); }
     Row& Chosen() { return rows[static_cast<std::size_t>(chosen)]; }
 
     // The chosen record in its file.
@@ -222,10 +218,11 @@ protected:
         ASSERT_EQ(world.Files(), files);
 
         const ItemEditor& editor = world.editor;
-        ASSERT_EQ(editor.Items.size(), model.rows.size());
-        for (std::size_t row = 0; row < model.rows.size(); ++row)
-            ASSERT_EQ(editor.Items[row], model.rows[row].record);
-        std::vector<int> order(model.rows.size());
+        std::vector<ItemRecord> records;
+        for (const Row& row : model.rows)
+            records.push_back(row.record);
+        ASSERT_EQ(editor.Items, records);
+        std::vector<int> order(records.size());
         std::iota(order.begin(), order.end(), 0);
         std::stable_sort(order.begin(), order.end(), [&](int left, int right) {
             if (model.descending)

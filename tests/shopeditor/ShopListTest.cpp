@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace emporium::test {
 namespace {
 
@@ -14,7 +16,6 @@ class ShopList : public testing::Test {
 protected:
     void Add(std::string_view nameLine, std::string_view price, std::string_view regions = "") {
         AddShopRow(shop, MakeShopRow(nameLine, "3", price, regions));
-        UpdateShopButtons(shop);
     }
 
     // Name and price of each row, in the order of the list.
@@ -35,12 +36,6 @@ protected:
         SetShopRowPrice(shop, script.platform);
     }
 
-    bool ButtonsAreEnabled() const {
-        EXPECT_EQ(shop.cmdShopAnzahl.enabled, shop.cmdShopDelete.enabled);
-        EXPECT_EQ(shop.cmbShopPreise.enabled, shop.cmdShopDelete.enabled);
-        return shop.cmdShopDelete.enabled;
-    }
-
     ShopEditor shop;
     ScriptedPlatform script;
 };
@@ -59,13 +54,18 @@ TEST_F(ShopList, RowsStandSortedByTheTextOfOneColumn) {
     EXPECT_EQ(Rows(), (Texts{"Schwert 2 100D", std::string("Ähre 10S"_ansi), "Topf 10S",
                              "Pfanne 1S", "Zelt 9S"}));
     EXPECT_EQ(Current(), "Zelt 9S");
-    SetPrice("10");
-    SortShopList(shop, ShopPriceColumn);
-    EXPECT_EQ(Rows().back(), "Schwert 2 100D");
-    EXPECT_EQ(Current(), "Zelt 10S");
+    ChoosePriceLevel(shop, 3);
+    EXPECT_EQ(Rows(), (Texts{"Pfanne 1,2S", "Zelt 10,8S", "Schwert 2 120D",
+                             std::string("Ähre 12S"_ansi), "Topf 12S"}));
+    EXPECT_EQ(Current(), "Zelt 10,8S");
     SetPrice("2");
-    EXPECT_EQ(Rows().front(), "Zelt 2S");
     EXPECT_EQ(Current(), "Zelt 2S");
+    EXPECT_EQ(Rows()[4], "Zelt 2S");
+    ChooseShopRow(shop, 3);
+    for (const auto next : {"Zelt 2S"_ansi, "Ähre 12S"_ansi, "Schwert 2 120D"_ansi}) {
+        RemoveShopRow(shop);
+        EXPECT_EQ(Current(), next);
+    }
 }
 
 TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
@@ -89,64 +89,38 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 8,4D");
 }
 
-TEST_F(ShopList, AfterARemovalTheRowInItsPlaceIsCurrent) {
-    for (const char* name : {"A1", "B1", "C1"})
-        Add(name, "1S");
-    ChooseShopRow(shop, 1);
-    EXPECT_EQ(shop.lvLaden.toolTip, "B");
-    for (const char* next : {"C 1S", "A 1S", "(none)"}) {
-        EXPECT_TRUE(ButtonsAreEnabled());
-        RemoveShopRow(shop);
-        EXPECT_EQ(Current(), next);
-    }
-    EXPECT_FALSE(ButtonsAreEnabled());
+// The price in whole hundredths, written as decimal text.
+std::string ExactText(int basePrice, int percent) {
+    const int hundredths = basePrice * percent;
+    const int size = hundredths < 0 ? -hundredths : hundredths;
+    std::string text = (hundredths < 0 ? "-" : "") + std::to_string(size / 100);
+    if (size % 100 != 0)
+        text += "," + std::to_string(size / 10 % 10);
+    if (size % 10 != 0)
+        text += std::to_string(size % 10);
+    return text;
 }
 
-TEST_F(ShopList, WithoutACurrentRowNothingHappens) {
-    Add("A1", "1S");
-    RemoveShopRow(shop);
-    SetShopRowQuantity(shop, script.platform);
-    SetShopRowPrice(shop, script.platform);
-    EXPECT_EQ(Rows(), Texts{"A 1S"});
-    // The row may also go while its box is open; clearing takes the price level with it.
-    script.platform.AskText = [this](std::string_view) {
-        ClearShop(shop);
-        return std::string("5");
-    };
-    for (const auto operation : {SetShopRowQuantity, SetShopRowPrice}) {
-        Add("A1", "1S");
-        ChooseShopRow(shop, 0);
-        ChoosePriceLevel(shop, 1);
-        operation(shop, script.platform);
-        EXPECT_EQ(shop.ShopCount(), 0);
-        EXPECT_EQ(shop.cmbShopPreise.Selection(), -1);
-        EXPECT_FALSE(ButtonsAreEnabled());
-    }
+TEST(LevelPrice, EveryBasePriceAtEveryLevelIsExact) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    EXPECT_EQ(ExactText(-7, 85) + " " + ExactText(250, 85), "-5,95 212,5");
+    for (int base = Limits::min(); base <= Limits::max(); ++base)
+        for (int level = 0; const int percent : {70, 85, 100, 120, 150})
+            ASSERT_EQ(LevelPriceText(static_cast<std::int16_t>(base), level++),
+                      ExactText(base, percent))
+                << base << " at " << percent << " percent";
 }
 
-TEST_F(ShopList, AnAddedItemIsACopyAtItsStoredPriceAndAFullShopRefusesIt) {
-    ItemEditor items;
-    AddItemToShop(shop, items, script.platform);
-    EXPECT_EQ(shop.ShopCount(), 0);
-    items.Items = {{"Seil2", "10", "12,5D", "Text", "GA|"}};
-    items.CurrentItemRow = 0;
-    AddItemToShop(shop, items, script.platform);
-    EXPECT_TRUE(ButtonsAreEnabled());
-    ChoosePriceLevel(shop, 4);
-    AddItemToShop(shop, items, script.platform);
-    items.Items[0] = {"Topf1", "", "", "", ""};
-    AddItemToShop(shop, items, script.platform);
-    EXPECT_EQ(Rows(), (Texts{"Seil 18D", "Seil 12,5D", "Topf "}));
-    const ShopRow& row = *shop.lvLaden.rows[1];
-    EXPECT_EQ(row.Weight + row.ShopItemLine + row.ShopAvailability, "10Seil2GA|");
-    ChoosePriceLevel(shop, 2);
-    EXPECT_EQ(Rows(), (Texts{"Seil 12D", "Seil 12D", "Topf 0"}));
-    while (shop.ShopCount() + 1 < MaxRows)
-        shop.lvLaden.rows.push_back(MakeShopRow("Topf1", "", "1H", ""));
-    AddItemToShop(shop, items, script.platform);
-    script.ExpectMessage("Der Shop ist voll: Er fasst höchstens 32767 Waren."_ansi);
-    AddItemToShop(shop, items, script.platform);
-    EXPECT_EQ(shop.ShopCount(), MaxRows);
+TEST(BasePrice, TheNumberOfAPriceIsRoundedAndHeldWithinItsLimits) {
+    const std::vector<std::pair<std::string_view, int>> cases = {
+        {"12D", 12}, {"2,5S", 2},       {"3,5S", 4},         {"0,5H", 0},         {"1.250P", 1250},
+        {"-3D", -3}, {"40000D", 32767}, {"-40000D", -32768}, {"32767,4D", 32767}, {"D", 0},
+        {"", 0},     {"vielD", 0},      {"12", 1},           {"1,2,3D", 0}};
+    for (const auto& [price, base] : cases) {
+        const auto row = MakeShopRow("Seil1", "", price, "");
+        EXPECT_EQ(row->ShopBasePrice, base) << price;
+        EXPECT_EQ(row->Price, price);
+    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "store/CategoryFiles.h"
 
 #include "base/Ansi.h"
+#include "store/CategoryNames.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,98 +9,106 @@
 namespace emporium::test {
 namespace {
 
-const std::string Two = Lines({"Seil1", "80", "3S", "Zehn Schritt", "BO|GA|", // first record
-                               "Öse 22"_ansi, "", "1P", "", ""});
-
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
-    for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
-}
+using Names = std::vector<std::string>;
 
 TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) {
     const struct {
-        std::string what, bytes;
+        std::string bytes; // with ; for a line end
         std::size_t records;
         bool canBeWritten;
         std::size_t faults;
-    } cases[] = {
-        {"empty", "", 0, true, 0},
-        {"two records", Two, 2, true, 0},
-        {"LF ends", Replaced(Two, "\r\n", "\n"), 2, true, 0},
-        {"no last line end", Replaced(Two, "\r\n1P\r\n\r\n\r\n", "\r\n1P\r\nd\r\nWA|"), 2, true, 0},
-        {"cut off behind the fourth line", Two.substr(0, Two.size() - 2), 1, false, 1},
-        {"cut off within the first line", "Sei", 0, false, 1},
-        {"a line too many", Two + "\r\n", 2, false, 1},
-        {"empty name line", Replaced(Two, "Seil1", ""), 2, true, 1},
-        {"empty price lines", Replaced(Replaced(Two, "3S", ""), "1P", ""), 2, true, 1},
-        {"no price, and cut off", Replaced(Two, "3S", "") + "Rest", 2, false, 2},
-    };
+    } cases[] = {{"", 0, true, 0},
+                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;;", 2, true, 0},
+                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;WA|", 2, true, 0},
+                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;", 1, false, 1},
+                 {"Sei", 0, false, 1},
+                 {"Seil1;80;3S;lang;BO|;;", 1, false, 1},
+                 {";80;3S;lang;BO|;Öse 22;;1P;;;", 2, true, 1},
+                 {"Seil1;80;;lang;BO|;Öse 22;;;;;", 2, true, 1},
+                 {"Seil1;80;;lang;BO|;Rest", 1, false, 2}};
     const ProgramFolder program;
-    for (const auto& c : cases) {
-        program.Write("Emporium/Seile.dat", c.bytes);
-        const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, "Seile");
-        EXPECT_EQ(file.records.size(), c.records) << c.what;
-        EXPECT_EQ(file.CanBeWritten(), c.canBeWritten) << c.what;
-        EXPECT_EQ(file.bytes, c.bytes);
-        const auto faults = CategoryFaults("Seile", file);
-        EXPECT_EQ(faults.size(), c.faults) << c.what;
-        for (const std::string& fault : faults)
-            EXPECT_TRUE(fault.starts_with("Seile.dat: ")) << fault;
-    }
-}
-
-TEST(CategoryFiles, RecordsAreAddedBehindWhatStandsByteForByte) {
-    const ProgramFolder program;
-    const std::string lf = Replaced(Two, "\r\n", "\n") + "a1\n\n1P\n\nBO|";
-    program.Write("Emporium/Seile.dat", lf);
-    const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, "Seile");
-    ASSERT_EQ(file.records.size(), 3U);
-    EXPECT_EQ(WithRecords({}, {file.records[0], file.records[1]}), Two) << "no LF in a record";
-    EXPECT_EQ(WithRecords(file, {file.records[0], file.records[1]}), lf + "\r\n" + Two);
+    for (const auto& c : cases)
+        for (const std::string_view end : {"\r\n", "\n"}) {
+            std::string bytes = c.bytes;
+            for (auto at = bytes.find(';'); at != bytes.npos; at = bytes.find(';'))
+                bytes.replace(at, 1, end);
+            program.Write("Emporium/Seile.dat", bytes);
+            const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, "Seile");
+            EXPECT_EQ(file.records.size(), c.records) << c.bytes;
+            EXPECT_EQ(file.CanBeWritten(), c.canBeWritten) << c.bytes;
+            EXPECT_EQ(CategoryFaults("Seile", file).size(), c.faults) << c.bytes;
+        }
 }
 
 TEST(CategoryFiles, AbsentAndUnreadableAreNotEmpty) {
     const ProgramFolder program;
     std::filesystem::create_directory(program.folders.EmporiumFolder() / "Ordner.dat");
-    for (const std::string_view name : {"Ordner", "../Emporium/Ordner", "CON", ""}) {
+    for (const std::string_view name : {"Ordner", "../Emporium/Ordner", "CON", "", "Fehlt"}) {
         const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, name);
-        EXPECT_EQ(file.state, FileText::State::Unreadable) << name;
-        EXPECT_FALSE(file.CanBeWritten()) << name;
+        EXPECT_EQ(file.CanBeWritten(), name == "Fehlt") << name;
         EXPECT_EQ(CategoryFaults(name, file).size(), 1U) << name;
     }
-    const CategoryFile absent = ReadCategoryFile(SystemFiles(), program.folders, "Fehlt");
-    EXPECT_TRUE(absent.CanBeWritten());
-    EXPECT_EQ(CategoryFaults("Fehlt", absent),
-              std::vector<std::string>{"Fehlt.dat: Die Datei fehlt."});
+    EXPECT_TRUE(ReadCategoryNames(SystemFiles(), program.folders).reason) << "no list";
 }
 
 TEST(CategoryFiles, TheNamesOfTheListCountAndNotItsNumber) {
     const ProgramFolder program;
-    const std::vector<std::string> names = {"Seile", std::string("Öle"_ansi)};
-    const std::string whole = Lines({" 2 ", "Seile", "Öle"_ansi});
-    for (const std::string& bytes :
-         {whole, Replaced(whole, " 2 ", "32768"), Replaced(whole, " 2 ", "zwei"),
-          Replaced(whole, " 2 ", ""), Replaced(whole, "\r\n", "\n"),
-          whole.substr(0, whole.size() - 2), whole + Lines({"", "Seile", "Alles"})}) {
+    for (const std::string bytes :
+         {" 2 \r\nSeile\r\nTaue\r\n", "32768\r\nSeile\r\nTaue\r\n", "zwei\r\nSeile\r\nTaue\r\n",
+          "\r\nSeile\r\nTaue\r\n", " 2 \nSeile\nTaue", " 2 \r\nSeile\r\nTaue\r\n\r\nSeile\r\n"}) {
         program.Write("Emporium/ItemKategorien.dat", bytes);
         const CategoryList list = ReadCategoryNames(SystemFiles(), program.folders);
-        EXPECT_EQ(list.names, names) << bytes;
-        EXPECT_EQ(CategoryListText(list.names), whole);
+        EXPECT_EQ(list.names, (Names{"Seile", "Taue"})) << bytes;
     }
-    std::filesystem::remove(CategoryListPath(program.folders));
-    const CategoryList list = ReadCategoryNames(SystemFiles(), program.folders);
-    EXPECT_EQ(list.state, FileText::State::Absent);
-    EXPECT_TRUE(list.reason) << "a list that is absent must not be told as an empty one";
 }
 
-TEST(CategoryFiles, ABoxTellsAHandfulOfFaultsAndCountsTheRest) {
-    std::vector<std::string> faults(12, "fault");
-    EXPECT_EQ(FaultsText(faults).find("weitere"), std::string::npos);
-    faults.resize(14, "unseen");
-    const std::string text = FaultsText(faults);
-    EXPECT_TRUE(text.ends_with("... und 2 weitere Meldungen.")) << text;
-    EXPECT_EQ(text.find("unseen"), std::string::npos);
+// The names between the semicolons.
+Names Split(std::string_view list) {
+    Names names;
+    for (std::size_t end = 0; end != list.npos; list.remove_prefix(end == list.npos ? 0 : end + 1))
+        names.emplace_back(list.substr(0, end = list.find(';')));
+    return names;
+}
+
+TEST(CategoryNames, NamesThatAreTakenOrThatNoFileCanBearAreRefused) {
+    const ProgramFolder program;
+    for (const auto file : {"Emporium/Kleidung.dat"_ansi, "Emporium/Schläuche.dat"_ansi})
+        program.Write(file, "x\r\n");
+    const auto refusal = [&](std::string_view name) {
+        return CategoryNameRefusal(program.folders, {"Kleidung", std::string("Öllampen"_ansi)},
+                                   name);
+    };
+    Names impossible =
+        Split("a/b;a\\b;/;..;.;../a;C:;a:b;a*;?a;\"a\";<a;a>;a|b;CON;con;Prn;AUX;nul.txt;"
+              "NUL.a.b;COM1;com9.x;COM¹;Lpt0;CONIN$;conout$;CON .x; a;a ;.a;a.; ;a\tb;"
+              "a\nb;a\x1F;\x7F"_ansi);
+    impossible.emplace_back(101, 'a');
+    impossible.emplace_back("a\0b", 3);
+    // As many bytes as no Linux name can have, although each is one character.
+    impossible.emplace_back(100, "€"_ansi[0]);
+    const std::pair<std::string_view, Names> refused[] = {
+        {"Diese Kategorie existiert", Split("Kleidung;Öllampen;Alles"_ansi)},
+        {"Eine Kategorie, deren Name sich nur", Split("kleidung;KLEIDUNG;öLLAMPEN"_ansi)},
+        {"Im Ordner der Kategorien",
+         Split("ItemKategorien;itemkategorien;ShopgeneratorConfig;SHOPGENERATORSHOPS;"
+               "EmporiumNahkampfwaffen;emporiumFernwaffen;EmporiumRÜSTUNGEN;Schläuche;"
+               "SCHLÄUCHE"_ansi)},
+        {"Diesen Namen kann keine Datei tragen", impossible}};
+    for (const auto& [beginning, names] : refused)
+        for (const std::string& name : names)
+            EXPECT_TRUE(refusal(name).starts_with(beginning)) << name << ": " << refusal(name);
+
+    Names good = Split("alles;Konrad;COM10;COM;LPT;CONTRA;Con1;a.b;a b;a..b;Kleidung2;"
+                       "Kleidung.dat;Emporium;Nahkampf;5;-;Münzen & Maße (€)"_ansi);
+    for (const std::string_view character : {"a"_ansi, "ü"_ansi})
+        good.emplace_back(100, character[0]);
+    good.emplace_back("\x81\x9D"); // the code page leaves them undefined
+    for (const std::string& name : good) {
+        EXPECT_EQ(refusal(name), "") << name;
+        program.Write("Emporium/" + name + ".dat", name);
+        EXPECT_EQ(ReadCategoryFile(SystemFiles(), program.folders, name).bytes, name);
+        EXPECT_NE(refusal(name), "") << "its file stands now";
+    }
 }
 
 } // namespace

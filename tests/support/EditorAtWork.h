@@ -1,67 +1,22 @@
 // An item editor over a small world of categories, driven through its controls as a user does.
 #pragma once
 
-#include "itemeditor/ItemEditor.h"
+#include "base/Ansi.h"
+#include "itemeditor/AvailabilityEditor.h"
+#include "itemeditor/CategoryChoice.h"
+#include "itemeditor/ItemForm.h"
+#include "itemeditor/ItemList.h"
+#include "itemeditor/ItemSaving.h"
+#include "regions/Availability.h"
+#include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 
-#include <functional>
+#include <algorithm>
 #include <map>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <sstream>
 
 namespace emporium::test {
-
-class EditorAtWork {
-public:
-    /// Nahkampfwaffen with one item, Fernwaffen and Abakus without any, Rüstungen with one,
-    /// Kleidung with four, Öllampen with two; listed in this order, Abakus last.
-    EditorAtWork();
-
-    ProgramFolder program;
-    ScriptedPlatform script;
-    ItemEditor editor;
-
-    /// Reads the category list, as the start of the program does.
-    void ReadList();
-
-    /// Picks a view, or the category in the form.
-    void View(std::string_view entry);
-    void FormCategory(std::string_view entry);
-
-    /// The first record of that name in the view, -1 if there is none.
-    int Find(std::string_view name) const;
-
-    /// Picks the row of that record.
-    void Open(int record);
-    void Open(std::string_view name) { Open(Find(name)); }
-
-    /// Types and picks all of a record; a mark that is none leaves its list without a choice.
-    void Fill(const ItemRecord& record);
-
-    void Save();
-    void Delete();
-    void Delete(bool answer); // with the question
-
-    /// The names in the list as they stand in it, with a blank between them.
-    std::string Rows() const;
-
-    /// The bytes of a category's file.
-    std::string File(std::string_view category) const;
-
-    /// All data files by name, and all that the controls and records hold.
-    std::map<std::string, std::string> Files() const;
-    std::string State() const;
-};
-
-/// Runs the act in worlds of their own, each time with the next file operation failing: either a
-/// box tells it and files, records and controls stand as before, or all is as without the failure.
-void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
-                        const std::function<void(EditorAtWork&)>& act);
-
-/// The records as a file holds them.
-std::string RecordLines(const std::vector<ItemRecord>& records);
 
 inline constexpr std::string_view MoveQuestion =
     "Ihr habt die Kategorie des Gegenstandes geändert, soll er wirklich einer anderen Kategorie "
@@ -71,5 +26,193 @@ inline constexpr std::string_view DeleteQuestion =
 inline constexpr std::string_view DeleteCategoryQuestion =
     "Soll die gewählte Kategorie wirklich gelöscht werden ?"_ansi;
 inline constexpr std::string_view NamePrompt = "Bitte gebt der Kategorie einen Namen.";
+
+inline int PlaceOf(const ChoiceList& list, std::string_view entry) {
+    const auto found = std::find(list.Entries().begin(), list.Entries().end(), entry);
+    EXPECT_NE(found, list.Entries().end()) << entry;
+    return static_cast<int>(found - list.Entries().begin());
+}
+
+inline int PlaceOfMark(std::string_view marks, const std::string& line) {
+    const auto place = line.empty() ? marks.npos : marks.find(line.back());
+    return place == marks.npos ? -1 : static_cast<int>(place);
+}
+
+class EditorAtWork {
+public:
+    /// Nahkampfwaffen with one item, Fernwaffen and Abakus without any, Rüstungen with one,
+    /// Kleidung with four, Öllampen with two; listed in this order, Abakus last.
+    EditorAtWork() {
+        const std::pair<std::string_view, std::string_view> files[] = {
+            {"ItemKategorien"_ansi,
+             " 6 ;Nahkampfwaffen;Fernwaffen;Rüstungen;Kleidung;Öllampen;Abakus;"_ansi},
+            {"Nahkampfwaffen"_ansi, "Dolch2;20;12S;Ein einfacher Dolch;BO|GA|TH|;"_ansi},
+            {"Fernwaffen"_ansi, ""_ansi},
+            {"Rüstungen"_ansi, "Helm4;60;+3D;;;"_ansi},
+            {"Kleidung"_ansi, "Mantel3;0,5;20D; Blau, mit | bestickt ;"
+                              "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|;"
+                              "Ärmel1;;5S;;;"
+                              "mantel2;-1.;100D;Für \u0081 den Regen;SÜ|;"
+                              "Zopf5;2;5S;;BO|;"_ansi},
+            {"Öllampen"_ansi, "Laterne 23;7;8H;;;X1;;-P;Nur ein Zeichen;;"_ansi},
+            {"Abakus"_ansi, ""_ansi}};
+        for (const auto& [name, lines] : files) {
+            std::string bytes;
+            for (const char c : lines)
+                bytes += c == ';' ? "\r\n" : std::string(1, c);
+            program.Write(std::string("Emporium/").append(name).append(".dat"), bytes);
+        }
+        script.platform.files.flush = [](FileLayer::Handle) { return std::error_code(); };
+        script.platform.files.flushFolder = [](const auto&) { return std::error_code(); };
+        ReadList();
+    }
+
+    ProgramFolder program;
+    ScriptedPlatform script;
+    ItemEditor editor;
+
+    /// Reads the category list, as the start of the program does.
+    void ReadList() {
+        editor = ItemEditor();
+        std::vector<std::string> faults;
+        ReadCategoryList(editor, script.platform.files, program.folders, faults);
+        EXPECT_TRUE(faults.empty());
+    }
+
+    /// Picks a view, or the category in the form.
+    void View(std::string_view entry) {
+        ChooseCategory(editor, script.platform, program.folders,
+                       PlaceOf(editor.cmbKategorien, entry));
+    }
+
+    void FormCategory(std::string_view entry) {
+        editor.cmbItemKategorien.Select(PlaceOf(editor.cmbItemKategorien, entry));
+    }
+
+    /// Picks the row of a record, or of the first of that name.
+    void Open(int record) {
+        ASSERT_GE(record, 0);
+        ChooseItemRow(editor, script.platform, program.folders, record);
+    }
+
+    void Open(std::string_view name) {
+        int record = editor.ItemCount() - 1;
+        for (int row = record; row >= 0; --row)
+            record = ItemName(editor.Record(row)) == name ? row : record;
+        Open(record);
+    }
+
+    /// Types and picks all of a record; a mark that is none leaves its list without a choice.
+    void Fill(const ItemRecord& record) {
+        EditItemText(editor, NameText, std::string(ItemName(record)));
+        EditItemText(editor, WeightText, record[WeightField]);
+        EditItemText(editor, PriceText, std::string(WithoutLast(record[PriceField])));
+        EditItemText(editor, DescriptionText, record[DescriptionField]);
+        editor.cmbItemPreis.Select(PlaceOfMark("DSHP", record[PriceField]));
+        ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
+        ReturnAllRegions(editor);
+        for (const std::string_view code : AvailabilityCodes(record[AvailabilityField])) {
+            SelectRegion(editor, script.platform, program.folders,
+                         PlaceOf(editor.lstRegionen, code));
+            MoveRegionIn(editor);
+        }
+    }
+
+    void Save() { SaveItem(editor, script.platform, program.folders); }
+
+    void Delete() { ConfirmDeleteItem(editor, script.platform, program.folders); }
+
+    void Delete(bool answer) {
+        script.ExpectYesNo(DeleteQuestion, answer);
+        Delete();
+    }
+
+    /// The names in the list as they stand in it, with a blank between them.
+    std::string Rows() const {
+        std::string names;
+        for (const int row : editor.lvGegenstände.rows)
+            names.append(names.empty() ? "" : " ").append(ItemName(editor.Record(row)));
+        return names;
+    }
+
+    /// The bytes of a category's file.
+    std::string File(std::string_view category) const {
+        return program.Read(std::string("Emporium/").append(category).append(".dat"));
+    }
+
+    /// All data files by name.
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry :
+             std::filesystem::directory_iterator(program.folders.EmporiumFolder())) {
+            const std::string name = FromPath(entry.path().filename());
+            if (name.ends_with(".dat"))
+                files[name] = program.Read("Emporium/" + name);
+        }
+        return files;
+    }
+
+    /// All that the controls and records hold.
+    std::string State() const {
+        std::ostringstream out;
+        const auto put = [&out](const auto& entries) {
+            for (const auto& entry : entries)
+                out << entry << ';';
+            out << '\n';
+        };
+        for (const ItemRecord& record : editor.Items)
+            put(record);
+        put(editor.CategoryNames);
+        put(editor.ItemHomeCategories);
+        put(editor.lvGegenstände.rows);
+        for (const TextField& field : editor.txtItem)
+            out << field.text << '\n';
+        for (const ChoiceList* list :
+             {&editor.cmbKategorien, &editor.cmbItemKategorien, &editor.cmbItemPreis,
+              &editor.cmbItemWert, &editor.lstRegionen, &editor.lstVerfügbar}) {
+            put(list->Entries());
+            out << list->Selection() << '\n';
+        }
+        for (const Button* button : {&editor.cmdItemSave, &editor.cmdItemDelete, &editor.cmdItemHin,
+                                     &editor.cmdListeDrucken, &editor.cmdKategorieDelete})
+            out << button->enabled;
+        out << editor.CurrentItemRow << editor.EditingExisting << editor.lvGegenstände.toolTip;
+        return out.str();
+    }
+};
+
+/// Runs the act in worlds of their own, each time with the next file operation failing: either a
+/// box tells it and files, records and controls stand as before, or all is as without the failure.
+inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
+                               const std::function<void(EditorAtWork&)>& act) {
+    EditorAtWork whole;
+    prepare(whole);
+    act(whole);
+    for (int n = 1;; ++n) {
+        SCOPED_TRACE("file operation " + std::to_string(n));
+        EditorAtWork world;
+        prepare(world);
+        const auto files = world.Files();
+        const auto state = world.State();
+        int boxes = 0;
+        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
+        const FaultyFiles faulty(Fault::Once, n);
+        world.script.platform.files = faulty.files;
+        act(world);
+        EXPECT_LE(boxes, 1);
+        EXPECT_EQ(world.Files(), boxes > 0 ? files : whole.Files());
+        EXPECT_EQ(world.State(), boxes > 0 ? state : whole.State());
+        if (!faulty.HasFired())
+            break;
+    }
+}
+
+/// The records as a file holds them.
+inline std::string RecordLines(const std::vector<ItemRecord>& records) {
+    std::string text;
+    for (const ItemRecord& record : records)
+        text += Lines({record[0], record[1], record[2], record[3], record[4]});
+    return text;
+}
 
 } // namespace emporium::test

@@ -4,6 +4,8 @@
 
 #include "base/Platform.h"
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <string>
 #include <string_view>
@@ -13,39 +15,74 @@ namespace emporium::test {
 
 class ScriptedPlatform {
 public:
-    ScriptedPlatform();
-    ~ScriptedPlatform();
+    ScriptedPlatform() {
+        platform.files = SystemFiles();
+        platform.RollDice = [this](std::int32_t n) {
+            sides.push_back(n);
+            if (throws_.empty()) {
+                ADD_FAILURE() << "an unexpected throw of a die with " << n << " sides";
+                return 1;
+            }
+            const int result = throws_.front();
+            throws_.pop_front();
+            EXPECT_LE(result, n) << "the scripted throw does not fit the die";
+            return result;
+        };
+        platform.AskYesNo = [this](const YesNoBox& box) {
+            return Answer("yes/no", box.text) == "yes";
+        };
+        platform.ShowMessage = [this](std::string_view text) { Answer("message", text); };
+        platform.AskText = [this](std::string_view prompt) { return Answer("text", prompt); };
+        platform.ShowGeneratorDialog = [] {};
+        platform.SetWaitPointer = [](bool) {};
+        platform.FocusItemName = [] {};
+    }
+    ~ScriptedPlatform() {
+        for (const Step& step : script_)
+            ADD_FAILURE() << "never asked: " << step.kind << " " << step.text;
+    }
     ScriptedPlatform(const ScriptedPlatform&) = delete;
     ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
 
     /// What is handed to the operations.
     Platform platform;
 
-    void ExpectYesNo(std::string_view text, bool answer);
-    void ExpectText(std::string_view prompt, std::string_view answer);
+    void ExpectYesNo(std::string_view text, bool answer) {
+        script_.push_back({"yes/no", std::string(text), answer ? "yes" : "no"});
+    }
+    void ExpectText(std::string_view prompt, std::string_view answer) {
+        script_.push_back({"text", std::string(prompt), std::string(answer)});
+    }
 
     /// A message that begins so.
-    void ExpectMessage(std::string_view beginning);
-    void ExpectSave(const std::filesystem::path& answer);
+    void ExpectMessage(std::string_view beginning) {
+        script_.push_back({"message", std::string(beginning), {}});
+    }
 
     /// The throws to come; a throw beyond them fails the test.
-    void Throw(std::initializer_list<int> throws);
+    void Throw(const std::vector<int>& throws) {
+        throws_.insert(throws_.end(), throws.begin(), throws.end());
+    }
 
     /// The sides of the dice thrown so far.
     std::vector<int> sides;
 
-    /// The files opened in the viewer.
-    std::vector<std::filesystem::path> viewed;
-
 private:
     struct Step {
-        std::string kind;
-        std::string text;
-        std::string answer;
+        std::string kind, text, answer;
     };
 
-    void Expect(std::string_view kind, std::string_view text, std::string answer);
-    std::string Answer(std::string_view kind, std::string_view text);
+    std::string Answer(std::string_view kind, std::string_view text) {
+        if (script_.empty()) {
+            ADD_FAILURE() << "unexpected: " << kind << " " << text;
+            return {};
+        }
+        const Step step = script_.front();
+        script_.pop_front();
+        EXPECT_EQ(step.kind, kind);
+        EXPECT_EQ(step.text, kind == "message" ? text.substr(0, step.text.size()) : text);
+        return step.answer;
+    }
 
     std::deque<Step> script_;
     std::deque<int> throws_;
