@@ -34,7 +34,8 @@ public:
         NameOwner();
         Adjust();
         Export();
-        Print();
+        Print("cmdShopDrucken", "shop.pdf", "10-drucken.png");
+        Print("cmdListeDrucken", "gegenstaende.pdf", "11-liste-drucken.png");
         return Succeeded();
     }
 
@@ -112,23 +113,24 @@ private:
         driver_.Click("cmdShopExport");
     }
 
-    void Print() {
-        driver_.Expect([this](QWidget& widget) {
+    void Print(const char* button, const QString& file, const QString& picture) {
+        driver_.Expect([this, file, picture](QWidget& widget) {
             auto& dialog = dynamic_cast<QPrintDialog&>(widget);
-            Picture(dialog, "10-drucken.png");
+            Picture(dialog, picture);
             dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
-            dialog.printer()->setOutputFileName(Output("shop.pdf"));
+            dialog.printer()->setOutputFileName(Output(file));
             dialog.done(QDialog::Accepted);
         });
-        driver_.Click("cmdShopDrucken");
+        driver_.Click(button);
     }
 
     bool Succeeded() const {
         for (const QString& fault : driver_.unexpected)
             std::fprintf(stderr, "unexpected: %s\n", qUtf8Printable(fault));
-        const bool whole = driver_.unexpected.isEmpty() && driver_.Pending() == 0;
-        return whole && QFileInfo(Output("shop.html")).size() > 0 &&
-               QFileInfo(Output("shop.pdf")).size() > 0;
+        bool whole = driver_.unexpected.isEmpty() && driver_.Pending() == 0;
+        for (const char* file : {"shop.html", "shop.pdf", "gegenstaende.pdf"})
+            whole = whole && QFileInfo(Output(file)).size() > 0;
+        return whole;
     }
 
     emporium::ui::MainWindow& window_;
