@@ -46,8 +46,10 @@ void RunGenerator(benchmark::State& state, bool regionCounts) {
     Dice dice(Clock);
     world.platform.RollDice = [&dice](std::int32_t n) { return dice.RollDice(n); };
     RegionTable regions = RegionInit();
+    ShopEditor shop;
     for (auto _ : state) {
-        ShopEditor shop;
+        state.PauseTiming();
+        ClearShop(shop); // as the dialog does when it opens
         frmEmporiumGenerator dialog;
         dialog.cmbShopBeruf.Add("Alles");
         ChooseShopType(dialog, 0);
@@ -55,6 +57,7 @@ void RunGenerator(benchmark::State& state, bool regionCounts) {
         ChooseGeneratorQuality(dialog, 2);
         TickShopRegion(dialog, regionCounts);
         dialog.cmbShopRegion.Select(3);
+        state.ResumeTiming();
         GenerateShop(dialog, shop, regions, world.platform, world.folders);
         benchmark::DoNotOptimize(shop.ShopCount());
     }
