@@ -50,6 +50,32 @@ TEST_F(WindowTest, ANewItemNeedsItsUnit) {
     EXPECT_EQ(program.Read("Emporium/Öle.dat"_ansi), Lines({"Leinöl1"_ansi, "", "7,5H", "", ""}));
 }
 
+TEST_F(WindowTest, AMoveIsAskedForAndCanBeDeclined) {
+    const QString question = "Ihr habt die Kategorie des Gegenstandes geändert, soll er wirklich "
+                             "einer anderen Kategorie zugeordnet werden ?";
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    driver->ClickRow("lvGegenstände", 0);
+    driver->Pick("cmbItemKategorien", "Öle");
+    driver->Type("txtItem0", "Nadel");
+    Answer(question, "Nein");
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(driver->Cell("lvGegenstände", 0, 0), "Ahle");
+    EXPECT_EQ(program.Read("Emporium/Öle.dat"_ansi), "");
+    driver->ClickRow("lvGegenstände", 0);
+    Answer(question, "Ja");
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(program.Read("Emporium/Öle.dat"_ansi), Lines({"Ahle1", "2", "8H", "Sticht.", ""}));
+    EXPECT_EQ(driver->Cell("lvGegenstände", 0, 0), "Öse");
+}
+
+TEST_F(WindowTest, ALetterJumpsToItsRow) {
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    QTest::keyClick(driver->Find("lvGegenstände"), Qt::Key_A);
+    EXPECT_EQ(FieldText(*driver, "txtItem0"), "Ahle");
+}
+
 TEST_F(WindowTest, CategoriesAreCreatedAndDeleted) {
     Open();
     Enter("Bitte gebt der Kategorie einen Namen.", "Öle");
