@@ -17,11 +17,14 @@
 #include <QPrintDialog>
 #include <QTest>
 
+#include <array>
 #include <cstdio>
 
 namespace {
 
 using emporium::test::WindowDriver;
+
+constexpr std::array Results = {"shop.html", "shop.pdf", "gegenstaende.pdf"};
 
 class Walk {
 public:
@@ -29,6 +32,8 @@ public:
         : window_(window), driver_(window), output_(output) {}
 
     bool Run() {
+        for (const char* file : Results)
+            QFile::remove(Output(file)); // or the save dialog would ask about an earlier walk's
         ShowItems();
         ComputeShop();
         NameOwner();
@@ -128,7 +133,7 @@ private:
         for (const QString& fault : driver_.unexpected)
             std::fprintf(stderr, "unexpected: %s\n", qUtf8Printable(fault));
         bool whole = driver_.unexpected.isEmpty() && driver_.Pending() == 0;
-        for (const char* file : {"shop.html", "shop.pdf", "gegenstaende.pdf"})
+        for (const char* file : Results)
             whole = whole && QFileInfo(Output(file)).size() > 0;
         return whole;
     }
