@@ -31,11 +31,6 @@ void ChoiceList::RemoveSelected() {
     selection_ = -1;
 }
 
-void ChoiceList::Clear() {
-    entries_.clear();
-    selection_ = -1;
-}
-
 void ChoiceList::Select(int index) {
     selection_ = index < static_cast<int>(entries_.size()) ? std::max(index, -1) : -1;
 }

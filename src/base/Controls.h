@@ -49,9 +49,6 @@ public:
     /// Removes the selected entry; none is selected then. Nothing happens without a selection.
     void RemoveSelected();
 
-    /// Removes all entries.
-    void Clear();
-
     /// Selects the entry; an index outside the list selects none.
     void Select(int index);
 

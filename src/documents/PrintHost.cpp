@@ -21,26 +21,36 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     return Wait::Ready;
 }
 
-// Writes the document, loads it and prints it. The result is the text of a box, empty if all is
-// well.
-std::string Print(PrintHost& host, const Platform& platform, const Folders& folders,
-                  const std::function<void(std::string& file)>& writer) {
+// Writes the document and has the view load it. Leaves the text of a box in `fault` if that failed;
+// true if the page is there.
+bool Load(PrintHost& host, const Platform& platform, const Folders& folders,
+          const std::function<void(std::string& file)>& writer, std::string& fault) {
     const auto page = folders.TempFolder / "Temp.html";
     host.PreviewReady = false;
     std::string document;
     writer(document);
-    if (const auto failure = WriteFile(platform.files, page, std::move(document)))
-        return FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
+    if (const auto failure = WriteFile(platform.files, page, std::move(document))) {
+        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
+        return false;
+    }
     platform.Browser.Navigate(page);
     const Wait wait = WaitForPage(host, platform);
     host.PreviewReady = false;
-    if (wait == Wait::WindowClosed)
-        return {};
     if (wait == Wait::TimedOut)
-        return "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
-    if (!platform.Browser.Print())
-        return "Der Drucker hat einen Fehler gemeldet, es wurde nichts oder nicht alles gedruckt.";
-    return {};
+        fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
+    return wait == Wait::Ready;
+}
+
+// The result is the text of a box, empty if all is well.
+std::string Print(PrintHost& host, const Platform& platform, const Folders& folders,
+                  const std::function<void(std::string& file)>& writer) {
+    std::string fault;
+    platform.SetWaitPointer(true);
+    const bool loaded = Load(host, platform, folders, writer, fault);
+    platform.SetWaitPointer(false);
+    if (loaded && !platform.Browser.Print())
+        fault = "Der Drucker hat einen Fehler gemeldet, es wurde nichts oder nicht alles gedruckt.";
+    return fault;
 }
 
 } // namespace

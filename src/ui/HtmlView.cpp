@@ -4,9 +4,12 @@
 #include "ui/Text.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPageSize>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTimer>
+
+#include <cmath>
 
 namespace emporium::ui {
 
@@ -14,6 +17,7 @@ namespace {
 
 // Text and pictures are measured at this resolution, on the screen and, scaled, on paper.
 constexpr double LayoutDpi = 96;
+constexpr double PointsPerInch = 72;
 constexpr double MarginInches = 2 / 2.54;
 constexpr int NumberPixels = 14;
 
@@ -34,14 +38,20 @@ public:
         setUseDesignMetrics(true);
         setDefaultFont(QFont({"Times New Roman", "Liberation Serif", "Serif"}, 12));
         setDocumentMargin(MarginInches * LayoutDpi);
+        setPageSize(QPageSize(QPageSize::A4).size(QPageSize::Point) * LayoutDpi / PointsPerInch);
     }
 
 protected:
     QVariant loadResource(int, const QUrl&) override { return {}; }
 };
 
-QSizeF PaperSize(const QPrinter& printer) {
-    return QSizeF(printer.width(), printer.height()) * LayoutDpi / printer.logicalDpiX();
+// Lays the page out anew if the printer's paper is another than A4.
+void FitToPaper(QTextDocument& page, const QPrinter& printer) {
+    const QSizeF paper =
+        QSizeF(printer.width(), printer.height()) * LayoutDpi / printer.logicalDpiX();
+    const QSizeF difference = paper - page.pageSize();
+    if (std::abs(difference.width()) >= 1 || std::abs(difference.height()) >= 1)
+        page.setPageSize(paper);
 }
 
 void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
@@ -82,7 +92,7 @@ bool HtmlView::PrintTo(QPrinter& printer) {
         return false;
     const double scale = printer.logicalDpiX() / LayoutDpi;
     painter.scale(scale, scale);
-    page_->setPageSize(PaperSize(printer));
+    FitToPaper(*page_, printer);
     const int count = page_->pageCount();
     for (int number = 1; number <= count; ++number) {
         DrawPage(painter, *page_, number);
