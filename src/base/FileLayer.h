@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -59,6 +60,15 @@ struct FileLayer {
 
 /// The file system of this machine.
 FileLayer SystemFiles();
+
+/// A mark on a folder that this running program uses it. It goes when the last copy of it goes, at
+/// the latest with the program.
+struct FolderClaim {
+    bool takenElsewhere = false; // another running program bears the mark
+    std::shared_ptr<void> mark;  // nothing if taken, or if the folder can't be marked
+};
+
+FolderClaim ClaimFolder(const std::filesystem::path& folder);
 
 /// True for a file that the desktop hides from its user.
 bool IsHiddenFile(const std::filesystem::path& file);

@@ -3,6 +3,7 @@
 #include "base/Ansi.h"
 #include "base/Journal.h"
 
+#include <algorithm>
 #include <array>
 
 namespace emporium {
@@ -18,8 +19,7 @@ constexpr const char* TemporaryEnding = ".orvan-neu";
 struct Step {
     fs::path target;
     fs::path temporary; // empty for a removal
-    FileText before;
-    fs::perms mode = fs::perms::unknown; // before, too
+    FileText before;    // for the way back, if there is more than one step
 };
 
 // Where a path leads in the end, so that a link stays a link.
@@ -58,7 +58,7 @@ std::error_code WriteAll(const FileLayer& files, FileLayer::Handle handle, std::
 
 std::error_code CreateTemporary(const FileLayer& files, const fs::path& target, fs::path& temporary,
                                 FileLayer::Handle& handle) {
-    constexpr int limit = 100;
+    constexpr int limit = 10'000;
     std::error_code error;
     for (int i = 0; i < limit; ++i) {
         temporary = target;
@@ -97,13 +97,12 @@ std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<Fil
                                    std::vector<Step>& steps) {
     for (const FileChange& change : changes) {
         Step step{FollowLinks(change.file), {}, {}};
-        std::error_code ignored;
         std::error_code error = CheckWritable(step.target);
         if (!error && changes.size() > 1) {
             step.before = files.read(step.target);
-            step.mode = fs::status(step.target, ignored).permissions();
             error = step.before.reason;
         }
+        std::error_code ignored;
         if (!error && change.contents)
             error = WriteTemporary(files, step.target, *change.contents,
                                    fs::exists(step.target, ignored), step.temporary);
@@ -119,42 +118,17 @@ std::error_code Apply(const FileLayer& files, const Step& step) {
                                   : files.rename(step.temporary, step.target);
 }
 
-std::optional<FileFailure> FlushFolders(const FileLayer& files, const std::vector<Step>& steps) {
+std::error_code FlushFolders(const FileLayer& files, const std::vector<Step>& steps) {
     fs::path flushed;
     for (const Step& step : steps) {
         const fs::path folder = step.target.parent_path();
         if (folder == flushed)
             continue;
         if (const auto error = files.flushFolder(folder))
-            return FileFailure{step.target, error};
+            return error;
         flushed = folder;
     }
-    return std::nullopt;
-}
-
-void Restore(const FileLayer& files, const Step& step) {
-    if (!step.before.IsWhole()) {
-        files.remove(step.target);
-        return;
-    }
-    WriteFile(files, step.target, step.before.bytes);
-    std::error_code ignored;
-    fs::permissions(step.target, step.mode, ignored);
-}
-
-std::optional<FileFailure> ApplyAll(const FileLayer& files, const fs::path& journal,
-                                    const std::vector<Step>& steps) {
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        const auto error = Apply(files, steps[i]);
-        if (!error)
-            continue;
-        files.remove(journal);
-        for (std::size_t done = 0; done < i; ++done)
-            Restore(files, steps[done]);
-        RemoveTemporaries(files, steps);
-        return FileFailure{steps[i].target, error};
-    }
-    return std::nullopt;
+    return {};
 }
 
 Journal DescribeSteps(const fs::path& folder, const std::vector<FileChange>& changes,
@@ -173,10 +147,13 @@ Journal DescribeSteps(const fs::path& folder, const std::vector<FileChange>& cha
     return journal;
 }
 
-std::optional<FileFailure> WriteSingle(const FileLayer& files, const std::vector<Step>& steps) {
+std::optional<FileFailure> WriteSingle(const FileLayer& files, const FileChange& change) {
+    std::vector<Step> steps;
+    if (auto failure = Prepare(files, {change}, steps))
+        return failure;
     if (const auto error = Apply(files, steps.front())) {
         RemoveTemporaries(files, steps);
-        return FileFailure{steps.front().target, error};
+        return FileFailure{change.file, error};
     }
     // The new contents stand and are complete; that their name may reach the disk a little later
     // is no reason to tell the user that nothing was written.
@@ -184,84 +161,171 @@ std::optional<FileFailure> WriteSingle(const FileLayer& files, const std::vector
     return std::nullopt;
 }
 
-bool HasTemporaryEnding(const fs::path& file) {
-    const fs::path ending = file.extension();
-    return ending.string().rfind(TemporaryEnding, 0) == 0;
+std::optional<FileFailure> WriteBound(const FileLayer& files, const fs::path& journalFolder,
+                                      std::vector<FileChange> changes);
+
+// Takes the first `done` steps back. They are changes like others, bound by a journal that takes
+// the place of the one that announced them: from then on recovery goes back, not forward. If that
+// fails as well, the first journal stands, and FinishJournal carries it out later.
+void TakeBack(const FileLayer& files, const fs::path& journalFolder, const std::vector<Step>& steps,
+              std::size_t done) {
+    if (done == 0) {
+        if (!files.remove(journalFolder / JournalName))
+            RemoveTemporaries(files, steps);
+        return;
+    }
+    std::vector<FileChange> changes;
+    for (std::size_t i = 0; i < done; ++i)
+        changes.push_back({steps[i].target, steps[i].before.IsWhole()
+                                                ? std::optional(steps[i].before.bytes)
+                                                : std::nullopt});
+    if (!WriteBound(files, journalFolder, std::move(changes)))
+        RemoveTemporaries(files, steps);
 }
 
-std::error_code FinishStep(const FileLayer& files, const fs::path& folder,
-                           const JournalEntry& entry) {
-    const fs::path target = folder / entry.target;
-    if (entry.temporary.empty())
-        return files.remove(target);
-    const FileText text = files.read(folder / entry.temporary);
-    if (text.state == FileText::State::Absent)
-        return {}; // renamed already
-    if (!text.IsWhole())
-        return text.reason;
-    if (text.bytes.size() != entry.length || Checksum(text.bytes) != entry.checksum)
-        return std::make_error_code(std::errc::io_error);
-    return files.rename(folder / entry.temporary, target);
-}
-
-std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
-    std::error_code error;
-    std::vector<fs::path> strays;
-    for (const auto& entry : fs::directory_iterator(folder, error))
-        if (HasTemporaryEnding(entry.path()))
-            strays.push_back(entry.path());
-    for (const fs::path& stray : strays)
-        if (const auto failed = files.remove(stray))
-            return FileFailure{stray, failed};
+std::optional<FileFailure> ApplyAll(const FileLayer& files, const fs::path& journalFolder,
+                                    const std::vector<Step>& steps) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const auto error = Apply(files, steps[i]);
+        if (!error)
+            continue;
+        TakeBack(files, journalFolder, steps, i);
+        return FileFailure{steps[i].target, error};
+    }
     return std::nullopt;
+}
+
+// Carries out the changes under a journal, which replaces one that stands. Removals come last, so
+// that none has to be taken back for the sake of another file.
+std::optional<FileFailure> WriteBound(const FileLayer& files, const fs::path& journalFolder,
+                                      std::vector<FileChange> changes) {
+    std::stable_partition(changes.begin(), changes.end(),
+                          [](const FileChange& change) { return change.contents.has_value(); });
+    std::vector<Step> steps;
+    auto failure = Prepare(files, changes, steps);
+    const fs::path journal = journalFolder / JournalName;
+    if (!failure)
+        failure =
+            WriteFile(files, journal, JournalText(DescribeSteps(journalFolder, changes, steps)));
+    if (failure) {
+        RemoveTemporaries(files, steps);
+        return failure;
+    }
+    failure = ApplyAll(files, journalFolder, steps);
+    // A journal that stays has no effect: what it announces is found to be done.
+    if (!failure && !FlushFolders(files, steps))
+        files.remove(journal);
+    return failure;
+}
+// How far a journal's entry has come. Lost: neither the temporary nor the target holds what was
+// announced.
+enum class Progress { Pending, Done, Lost };
+
+struct FoundStep {
+    Step step;
+    Progress progress;
+};
+
+// What a removal has come to doesn't matter, it can be repeated.
+std::error_code FindStep(const FileLayer& files, const fs::path& folder, const JournalEntry& entry,
+                         FoundStep& found) {
+    found = {{folder / entry.target, {}, {}}, Progress::Pending};
+    if (entry.temporary.empty())
+        return {};
+    found.step.temporary = folder / entry.temporary;
+    const auto isAnnounced = [&entry](const FileText& text) {
+        return text.IsWhole() && text.bytes.size() == entry.length &&
+               Checksum(text.bytes) == entry.checksum;
+    };
+    const FileText temporary = files.read(found.step.temporary);
+    if (temporary.reason || isAnnounced(temporary))
+        return temporary.reason;
+    const FileText target = files.read(found.step.target);
+    found.progress = isAnnounced(target) ? Progress::Done : Progress::Lost;
+    return target.reason;
+}
+
+// Goes on with the steps that a journal announced. If the contents of one are lost, which takes
+// more than a killed program, none of the others follows it: a removal could take the last copy of
+// a record. Such a journal is `hopeless`.
+std::optional<FileFailure> FinishSteps(const FileLayer& files, const fs::path& folder,
+                                       const Journal& journal, bool& hopeless) {
+    std::vector<FoundStep> steps(journal.size());
+    for (std::size_t i = 0; i < journal.size(); ++i)
+        if (const auto error = FindStep(files, folder, journal[i], steps[i]))
+            return FileFailure{steps[i].step.target, error};
+    for (const FoundStep& found : steps) {
+        hopeless = found.progress == Progress::Lost;
+        if (hopeless)
+            return FileFailure{found.step.target, std::make_error_code(std::errc::io_error)};
+    }
+    for (const FoundStep& found : steps)
+        if (found.progress == Progress::Pending)
+            if (const auto error = Apply(files, found.step))
+                return FileFailure{found.step.target, error};
+    files.flushFolder(folder);
+    return std::nullopt;
+}
+
+bool IsTemporary(const fs::path& file) {
+    return file.extension().string().starts_with(TemporaryEnding);
+}
+
+// The temporary files in the folder; of another folder only those of the target of a link.
+std::vector<fs::path> FindStrays(const fs::path& folder) {
+    std::vector<fs::path> strays;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        if (IsTemporary(entry.path()))
+            strays.push_back(entry.path());
+        if (!entry.is_symlink(error))
+            continue;
+        const fs::path target = FollowLinks(entry.path());
+        for (const auto& beside : fs::directory_iterator(target.parent_path(), error))
+            if (IsTemporary(beside.path()) && beside.path().stem() == target.filename())
+                strays.push_back(beside.path());
+    }
+    return strays;
 }
 
 } // namespace
 
 std::optional<FileFailure> WriteFiles(const FileLayer& files, const fs::path& journalFolder,
                                       const std::vector<FileChange>& changes) {
-    std::vector<Step> steps;
-    if (auto failure = Prepare(files, changes, steps)) {
-        RemoveTemporaries(files, steps);
-        return failure;
-    }
-    if (steps.size() == 1)
-        return WriteSingle(files, steps);
-
-    const fs::path journal = journalFolder / JournalName;
-    const std::string text = JournalText(DescribeSteps(journalFolder, changes, steps));
-    auto failure = WriteFile(files, journal, text);
-    if (failure) {
-        files.remove(journal);
-        RemoveTemporaries(files, steps);
-        return failure;
-    }
-    failure = ApplyAll(files, journal, steps);
-    if (!failure && !FlushFolders(files, steps))
-        files.remove(journal); // one that stays is finished, without effect, by the next start
-    return failure;
+    return changes.size() == 1 ? WriteSingle(files, changes.front())
+                               : WriteBound(files, journalFolder, changes);
 }
 
 std::optional<FileFailure> WriteFile(const FileLayer& files, const fs::path& file,
                                      std::string contents) {
-    return WriteFiles(files, {}, {{file, std::move(contents)}});
+    return WriteSingle(files, {file, std::move(contents)});
+}
+
+std::optional<FileFailure> FinishJournal(const FileLayer& files, const fs::path& folder) {
+    const fs::path journalFile = folder / JournalName;
+    const FileText text = files.read(journalFile);
+    if (text.state == FileText::State::Absent)
+        return std::nullopt;
+    if (!text.IsWhole())
+        return FileFailure{journalFile, text.reason};
+    std::optional<FileFailure> failure;
+    bool hopeless = false;
+    if (const auto journal = ReadJournal(text.bytes))
+        failure = FinishSteps(files, folder, *journal, hopeless);
+    if (failure && !hopeless)
+        return failure;
+    if (const auto error = files.remove(journalFile))
+        return FileFailure{journalFile, error};
+    return failure;
 }
 
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files, const fs::path& folder) {
-    const fs::path journalFile = folder / JournalName;
-    const FileText text = files.read(journalFile);
-    if (text.state == FileText::State::Unreadable)
-        return FileFailure{journalFile, text.reason};
-    if (const auto journal = ReadJournal(text.bytes)) {
-        for (const JournalEntry& entry : *journal)
-            if (const auto error = FinishStep(files, folder, entry))
-                return FileFailure{folder / entry.target, error};
-        files.flushFolder(folder);
-    }
-    if (text.IsWhole())
-        if (const auto error = files.remove(journalFile))
-            return FileFailure{journalFile, error};
-    return RemoveStrays(files, folder);
+    if (auto failure = FinishJournal(files, folder))
+        return failure;
+    for (const fs::path& stray : FindStrays(folder))
+        if (const auto error = files.remove(stray))
+            return FileFailure{stray, error};
+    return std::nullopt;
 }
 
 std::string ReasonText(const std::error_code& reason) {

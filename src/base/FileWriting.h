@@ -1,7 +1,7 @@
 // The one road by which a file is written: the complete new contents of one or several files, and
 // afterwards all of them stand or none does, also if the program is killed, the disk is full or an
 // operation fails. A single file is written beside its place and renamed over it. Several files
-// are bound together by a journal that the next start finishes or discards.
+// are bound together by a journal; what it announces is carried out before anything else is read.
 #pragma once
 
 #include "base/FileLayer.h"
@@ -24,9 +24,10 @@ struct FileChange {
     std::optional<std::string> contents; // nothing: the file is removed
 };
 
-/// Carries out all changes or none. Links are followed, permissions kept; a write-protected file is
-/// refused. More than one change needs `journalFolder`, the folder that FinishInterruptedWrites
-/// looks at. On failure every file stands as before.
+/// Carries out all changes or none, removals last. Links are followed, permissions kept; a
+/// write-protected file is refused. More than one change needs `journalFolder`, the folder that
+/// FinishJournal looks at. On failure every file stands as before; if even that could not be
+/// brought about, the next FinishJournal carries out all changes.
 std::optional<FileFailure> WriteFiles(const FileLayer& files,
                                       const std::filesystem::path& journalFolder,
                                       const std::vector<FileChange>& changes);
@@ -35,8 +36,14 @@ std::optional<FileFailure> WriteFiles(const FileLayer& files,
 std::optional<FileFailure> WriteFile(const FileLayer& files, const std::filesystem::path& file,
                                      std::string contents);
 
-/// Finishes what a killed run had committed in the folder, discards what it had not, and removes
-/// its temporary files. Runs before anything in the folder is read; running it again is harmless.
+/// Carries out what the folder's journal announces, if there is one. Runs before the files are read
+/// that are to be rewritten. A journal that can't be carried out stays, and its failure is
+/// returned; one whose contents are lost goes, and is told once.
+std::optional<FileFailure> FinishJournal(const FileLayer& files,
+                                         const std::filesystem::path& journalFolder);
+
+/// FinishJournal, and then removes the temporary files that a killed run left in the folder or
+/// beside the target of a link in it. Not while another copy of the program may be writing there.
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files,
                                                    const std::filesystem::path& journalFolder);
 

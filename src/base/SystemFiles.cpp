@@ -9,6 +9,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -118,6 +119,20 @@ std::error_code FlushFolder(const Path&) {
     return {};
 }
 
+// A name that stands for the folder, however its path is written.
+FolderClaim Claim(const Path& folder) {
+    std::error_code error;
+    std::wstring name = std::filesystem::canonical(folder, error).wstring();
+    CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
+    const auto sum = std::to_wstring(std::hash<std::wstring>()(name));
+    HANDLE mutex = CreateMutexW(nullptr, FALSE, (L"Orvan-Emporium-3-" + sum).c_str());
+    const bool taken = mutex && GetLastError() == ERROR_ALREADY_EXISTS;
+    return {taken, std::shared_ptr<void>(mutex, [](HANDLE held) {
+                if (held)
+                    CloseHandle(held);
+            })};
+}
+
 #else
 
 std::error_code LastError() {
@@ -202,6 +217,19 @@ std::error_code FlushFolder(const Path& folder) {
     return error;
 }
 
+// A lock on the folder itself leaves no file behind, whatever ends the program.
+FolderClaim Claim(const Path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return {};
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+        const bool taken = errno == EWOULDBLOCK;
+        ::close(descriptor);
+        return {taken, nullptr};
+    }
+    return {false, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
+}
+
 #endif
 
 std::error_code Remove(const Path& file) {
@@ -214,6 +242,10 @@ std::error_code Remove(const Path& file) {
 
 FileLayer SystemFiles() {
     return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
+}
+
+FolderClaim ClaimFolder(const std::filesystem::path& folder) {
+    return Claim(folder);
 }
 
 bool IsHiddenFile(const std::filesystem::path& file) {

@@ -13,7 +13,7 @@ void WriteItemList(const ItemEditor& editor, std::string& file) {
         HTMLHeaderCell(caption, file);
     HTMLLine("</tr>", file);
     for (const int row : editor.lvGegenstände.rows) {
-        const ItemRecord& record = editor.Record(row);
+        const RecordView& record = editor.Record(row);
         HTMLLine("<tr>", file);
         HTMLCell(ItemName(record), "35%", file);
         HTMLCell(record[WeightField], "15%", file);

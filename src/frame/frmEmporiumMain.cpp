@@ -16,22 +16,44 @@ std::string Caption() {
            " - Die Velmar Tuchhalle";
 }
 
+bool AskDespiteOtherCopy(const Platform& platform) {
+    return platform.AskYesNo(
+        {std::string("Orvan-Emporium 3 läuft schon und benutzt dieselben Daten. Was ihr in einem "
+                     "der Fenster ändert, zeigt das andere erst, wenn ihr dort die Kategorie noch "
+                     "einmal wählt.\n\nWollt ihr trotzdem weitermachen ?"_ansi),
+         BoxIcon::Warning, std::string(ProgramTitle)});
+}
+
+// While an interrupted write can't be finished, nothing is written on top of it.
+void BringUpToDate(const Platform& platform, const Folders& folders,
+                   std::vector<std::string>& faults) {
+    if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder())) {
+        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
+        return;
+    }
+    RenameOldCategoryFiles(platform.files, folders, faults);
+    ImportArsenal(platform.files, folders, faults);
+}
+
 } // namespace
 
-void StartUp(frmEmporiumMain& window, const Platform& platform,
+bool StartUp(frmEmporiumMain& window, const Platform& platform,
              const std::filesystem::path& programFolder) {
     std::vector<std::string> faults;
     window.folders = InitFolders(programFolder);
     window.regions = RegionInit();
     const Folders& folders = window.folders;
-    if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder()))
-        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
-    RenameOldCategoryFiles(platform.files, folders, faults);
-    ImportArsenal(platform.files, folders, faults);
+    window.claim = ClaimFolder(folders.EmporiumFolder());
+    // What another copy is just writing looks like something to be finished.
+    if (!window.claim.takenElsewhere)
+        BringUpToDate(platform, folders, faults);
+    else if (!AskDespiteOtherCopy(platform))
+        return false;
     ReadCategoryList(window.items, platform.files, folders, faults);
     window.caption = Caption();
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
+    return true;
 }
 
 void ShowItemEditor(frmEmporiumMain& window) {

@@ -18,6 +18,7 @@ enum class Mode { ItemEditor, ShopEditor };
 
 struct frmEmporiumMain {
     Folders folders;
+    FolderClaim claim;
     RegionTable regions;
     std::string caption;
     Mode mode = Mode::ItemEditor;
@@ -28,8 +29,9 @@ struct frmEmporiumMain {
 };
 
 /// Starts the program: what a killed run left is finished, the category files are brought up to
-/// date and the category list is read. What could not be read or written is told in one box.
-void StartUp(frmEmporiumMain& window, const Platform& platform,
+/// date and the category list is read. What could not be read or written is told in one box. If
+/// another copy of the program uses the same data, a box asks whether to go on; false if not.
+bool StartUp(frmEmporiumMain& window, const Platform& platform,
              const std::filesystem::path& programFolder);
 
 void ShowItemEditor(frmEmporiumMain& window);

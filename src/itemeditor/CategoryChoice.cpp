@@ -6,7 +6,7 @@
 #include "store/CategoryNames.h"
 
 #include <algorithm>
-#include <iterator>
+#include <unordered_set>
 
 namespace emporium {
 
@@ -22,24 +22,23 @@ void ResetView(ItemEditor& editor) {
 }
 
 // Takes as many of the file's records as the view has room for.
-void AddToView(ItemEditor& editor, CategoryFile file, ViewFile viewFile,
+void AddToView(ItemEditor& editor, const std::string& name, const CategoryFile& file,
                std::vector<std::string>& faults) {
-    const auto found = CategoryFaults(viewFile.name, file);
+    const auto found = CategoryFaults(name, file);
     faults.insert(faults.end(), found.begin(), found.end());
     const auto room = static_cast<std::size_t>(MaxRows - editor.ItemCount());
-    if (file.records.size() > room) {
-        faults.push_back(viewFile.name +
+    const auto count = std::min(room, file.records.size());
+    if (count < file.records.size())
+        faults.push_back(name +
                          std::string(".dat: Die Ansicht fasst höchstens 32767 Gegenstände. Was "
                                      "darüber hinausgeht, wird nicht gezeigt, und die Datei wird "
                                      "von hier aus nicht verändert."_ansi));
-        file.records.resize(room);
-        viewFile.canBeWritten = false;
-    }
-    viewFile.canBeWritten = viewFile.canBeWritten && file.CanBeWritten();
-    editor.ItemHomeCategories.insert(editor.ItemHomeCategories.end(), file.records.size(),
+    editor.ItemHomeCategories.insert(editor.ItemHomeCategories.end(), count,
                                      static_cast<int>(editor.viewFiles.size()));
-    std::move(file.records.begin(), file.records.end(), std::back_inserter(editor.Items));
-    editor.viewFiles.push_back(std::move(viewFile));
+    editor.Items.insert(editor.Items.end(), file.records.begin(),
+                        file.records.begin() + static_cast<std::ptrdiff_t>(count));
+    editor.viewFiles.push_back(
+        {name, file.bytes, file.CanBeWritten() && count == file.records.size()});
 }
 
 // The names that the view of the chosen entry is made of.
@@ -56,6 +55,72 @@ std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& p
     return list.names;
 }
 
+// The records of the chosen entry; nothing of the form.
+void ReadView(ItemEditor& editor, const Platform& platform, const Folders& folders,
+              std::vector<std::string>& faults) {
+    ResetView(editor);
+    for (const std::string& name : NamesOfView(editor, platform, folders, faults))
+        AddToView(editor, name, ReadCategoryFile(platform.files, folders, name), faults);
+    editor.CurrentItemRow = editor.Items.empty() ? -1 : 0;
+    FillItemList(editor);
+}
+
+void AddNewNames(ItemEditor& editor, std::vector<std::string> names) {
+    const std::unordered_set<std::string> known(editor.CategoryNames.begin(),
+                                                editor.CategoryNames.end());
+    for (const std::string& name : names) {
+        if (known.count(name) > 0)
+            continue;
+        editor.cmbKategorien.Add(name);
+        editor.cmbItemKategorien.Add(name);
+    }
+    editor.CategoryNames = std::move(names);
+}
+
+constexpr std::string_view NotCreated = "Die Kategorie konnte nicht angelegt werden.";
+constexpr std::string_view NotDeleted = "Die Kategorie konnte nicht gelöscht werden."_ansi;
+
+// The list as it stands on the disk. False, after a box, if it can't be read.
+bool ReadListToChange(const Platform& platform, const Folders& folders, std::string_view what,
+                      CategoryList& list) {
+    if (!ReadyToWrite(platform, folders))
+        return false;
+    list = ReadCategoryNames(platform.files, folders);
+    if (list.state != FileText::State::Whole)
+        platform.ShowMessage(FailureText(what, {CategoryListPath(folders), list.reason}));
+    return list.state == FileText::State::Whole;
+}
+
+// A usable name from the user and the list that it is to enter; an empty name if he gives up.
+std::string AskCategoryName(const Platform& platform, const Folders& folders, CategoryList& list) {
+    for (;;) {
+        std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.");
+        if (name.empty() || !ReadListToChange(platform, folders, NotCreated, list))
+            return {};
+        const std::string refusal = CategoryNameRefusal(folders, list.names, name);
+        if (refusal.empty())
+            return name;
+        platform.ShowMessage(refusal);
+    }
+}
+
+// Why the chosen category stays, empty if it can go.
+std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
+                          const Folders& folders, const std::string& name) {
+    const int file = ViewFileOf(editor, name);
+    if (file >= 0 && !editor.viewFiles[static_cast<std::size_t>(file)].canBeWritten)
+        return name + std::string(".dat: Diese Kategorie konnte nicht vollständig gelesen werden, "
+                                  "deshalb wird sie nicht gelöscht."_ansi);
+    const FileText present = platform.files.read(CategoryPath(folders, name));
+    if (present.state == FileText::State::Unreadable)
+        return FailureText(NotDeleted, {CategoryPath(folders, name), present.reason});
+    if (!present.bytes.empty())
+        return name + std::string(".dat: Diese Kategorie ist nicht mehr leer, denn ein anderes "
+                                  "Programm hat ihre Datei geändert. Sie wird nicht gelöscht. "
+                                  "Wählt sie noch einmal, um den neuen Stand zu sehen."_ansi);
+    return {};
+}
+
 } // namespace
 
 void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders& folders,
@@ -66,11 +131,7 @@ void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders&
                          std::string(" Deshalb gibt es nur die Auswahl \"Alles\", und neue "
                                      "Kategorien können nicht angelegt werden."_ansi));
     editor.cmdKategorieNeu.enabled = list.state == FileText::State::Whole;
-    editor.CategoryNames = std::move(list.names);
-    for (const std::string& name : editor.CategoryNames) {
-        editor.cmbKategorien.Add(name);
-        editor.cmbItemKategorien.Add(name);
-    }
+    AddNewNames(editor, std::move(list.names));
 }
 
 void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders& folders,
@@ -80,20 +141,45 @@ void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders&
 }
 
 void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& folders) {
-    ResetView(editor);
     std::vector<std::string> faults;
-    for (const std::string& name : NamesOfView(editor, platform, folders, faults))
-        AddToView(editor, ReadCategoryFile(platform.files, folders, name), {name, true}, faults);
-    editor.CurrentItemRow = editor.Items.empty() ? -1 : 0;
+    ReadView(editor, platform, folders, faults);
     editor.lvGegenstände.visible = true;
     editor.cmdItemSave.visible = editor.cmdItemDelete.visible = editor.cmdItemNeu.visible = true;
-    FillItemList(editor);
     editor.cmbItemKategorien.Select(editor.cmbKategorien.Selection());
     ClearItemForm(editor);
     UpdateItemButtons(editor);
     editor.cmdItemSave.enabled = false;
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
+}
+
+void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+    // The views keep their text alive.
+    const auto before = editor.viewFiles;
+    const bool editing = editor.EditingExisting;
+    RecordView record;
+    if (editor.CurrentItemRow >= 0)
+        record = editor.Record(editor.CurrentItemRow);
+    std::vector<std::string> faults;
+    ReadView(editor, platform, folders, faults);
+    const auto found = std::find(editor.Items.begin(), editor.Items.end(), record);
+    if (found != editor.Items.end()) {
+        editor.CurrentItemRow = static_cast<int>(found - editor.Items.begin());
+        editor.EditingExisting = editing;
+        editor.lvGegenstände.toolTip = ItemName(record);
+    }
+    UpdateItemButtons(editor);
+    UpdateSaveAvailability(editor);
+    if (!faults.empty())
+        platform.ShowMessage(FaultsText(faults));
+}
+
+bool ReadyToWrite(const Platform& platform, const Folders& folders) {
+    const auto failure = FinishJournal(platform.files, folders.EmporiumFolder());
+    if (failure)
+        platform.ShowMessage(
+            FailureText("Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi, *failure));
+    return !failure;
 }
 
 void UpdateItemButtons(ItemEditor& editor) {
@@ -108,56 +194,46 @@ void UpdateItemButtons(ItemEditor& editor) {
 }
 
 void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& folders) {
-    std::string name;
-    for (;;) {
-        name = platform.AskText("Bitte gebt der Kategorie einen Namen.");
-        if (name.empty())
-            return;
-        const std::string refusal = CategoryNameRefusal(folders, editor.CategoryNames, name);
-        if (refusal.empty())
-            break;
-        platform.ShowMessage(refusal);
-    }
-    std::vector<std::string> names = editor.CategoryNames;
-    names.push_back(name);
+    CategoryList list;
+    const std::string name = AskCategoryName(platform, folders, list);
+    if (name.empty())
+        return;
     const auto failure = WriteFiles(platform.files, folders.EmporiumFolder(),
-                                    {{CategoryListPath(folders), CategoryListText(names)},
+                                    {{CategoryListPath(folders), WithCategory(list, name)},
                                      {CategoryPath(folders, name), std::string()}});
     if (failure) {
-        platform.ShowMessage(FailureText("Die Kategorie konnte nicht angelegt werden.", *failure));
+        platform.ShowMessage(FailureText(NotCreated, *failure));
         return;
     }
-    editor.CategoryNames = std::move(names);
-    editor.cmbKategorien.Add(name);
-    editor.cmbItemKategorien.Add(name);
+    list.names.push_back(name);
+    AddNewNames(editor, std::move(list.names));
     if (editor.cmbKategorien.Text() == AllCategories)
-        editor.viewFiles.push_back({name, true});
+        editor.viewFiles.push_back({name, std::make_shared<const std::string>(), true});
 }
 
 void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders& folders) {
     const std::string name = editor.cmbKategorien.Text();
-    const int file = ViewFileOf(editor, name);
-    if (file >= 0 && !editor.viewFiles[static_cast<std::size_t>(file)].canBeWritten) {
-        platform.ShowMessage(name +
-                             std::string(".dat: Diese Kategorie konnte nicht vollständig gelesen "
-                                         "werden, deshalb wird sie nicht gelöscht."_ansi));
-        return;
-    }
     if (!platform.AskYesNo(
             {std::string("Soll die gewählte Kategorie wirklich gelöscht werden ?"_ansi),
              BoxIcon::Question, std::string(ProgramTitle)}))
         return;
-    std::vector<std::string> names = editor.CategoryNames;
-    std::erase(names, name);
-    const auto failure = WriteFiles(platform.files, folders.EmporiumFolder(),
-                                    {{CategoryListPath(folders), CategoryListText(names)},
-                                     {CategoryPath(folders, name), std::nullopt}});
-    if (failure) {
-        platform.ShowMessage(
-            FailureText("Die Kategorie konnte nicht gelöscht werden."_ansi, *failure));
+    CategoryList list;
+    if (!ReadListToChange(platform, folders, NotDeleted, list))
+        return;
+    const std::string refusal = DeleteRefusal(editor, platform, folders, name);
+    if (!refusal.empty()) {
+        platform.ShowMessage(refusal);
         return;
     }
-    editor.CategoryNames = std::move(names);
+    const auto failure = WriteFiles(platform.files, folders.EmporiumFolder(),
+                                    {{CategoryListPath(folders), WithoutCategory(list, name)},
+                                     {CategoryPath(folders, name), std::nullopt}});
+    if (failure) {
+        platform.ShowMessage(FailureText(NotDeleted, *failure));
+        return;
+    }
+    std::erase(list.names, name);
+    AddNewNames(editor, std::move(list.names));
     // The form's own choice may have been set elsewhere since the category was loaded.
     editor.cmbItemKategorien.Select(editor.cmbKategorien.Selection());
     editor.cmbItemKategorien.RemoveSelected();

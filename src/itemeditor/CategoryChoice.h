@@ -22,16 +22,25 @@ void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders&
 /// Reads the records of the chosen entry into the view, see ChooseCategory.
 void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
+/// Reads the view's files again because another program changed one. What the form holds stays; it
+/// belongs to the same record as before if there still is one, and is a new item otherwise.
+void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& folders);
+
+/// Carries out what an earlier write announced but could not finish. Precedes every reading of what
+/// is to be rewritten. False, after a box, if it fails again.
+bool ReadyToWrite(const Platform& platform, const Folders& folders);
+
 /// Ties buttons to the view's having records.
 void UpdateItemButtons(ItemEditor& editor);
 
 /// Asks for a name until it can be used, and creates an empty category of that name. The view
-/// stays. A category whose file can't be written does not enter the lists.
+/// stays. A category whose file can't be written does not enter the lists. Names that another
+/// program has put into the list file stay there and enter the lists as well.
 void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// Deletes the chosen category, after a question. It must be empty and not a fixed one, which is
-/// what enables the button. A file that could not be read whole is refused with a box. If the files
-/// can't be written nothing changes.
+/// what enables the button. A file that could not be read whole, or that is no longer empty, is
+/// refused with a box. If the files can't be written nothing changes.
 void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// The index of the view's file of that category, -1 if the view has none.

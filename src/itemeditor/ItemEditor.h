@@ -17,6 +17,7 @@ namespace emporium {
 /// A category file that the view shows.
 struct ViewFile {
     std::string name;
+    SharedText bytes;         // as last read or written
     bool canBeWritten = true; // false if the view does not hold all of it
 };
 
@@ -35,7 +36,7 @@ struct ItemEditor {
     std::vector<std::string> CategoryNames; // in the order of the list file
 
     std::vector<ViewFile> viewFiles;
-    std::vector<ItemRecord> Items;
+    std::vector<RecordView> Items;       // within the bytes of viewFiles
     std::vector<int> ItemHomeCategories; // for each item the index of its file in viewFiles
 
     int CurrentItemRow = -1; // index in Items, also the list's chosen row; -1 for none
@@ -58,7 +59,7 @@ struct ItemEditor {
 
     int ItemCount() const { return static_cast<int>(Items.size()); }
 
-    const ItemRecord& Record(int row) const { return Items[static_cast<std::size_t>(row)]; }
+    const RecordView& Record(int row) const { return Items[static_cast<std::size_t>(row)]; }
 };
 
 } // namespace emporium

@@ -22,7 +22,7 @@ std::string Mark(const ChoiceList& list) {
 } // namespace
 
 void ShowItemInForm(ItemEditor& editor, const Platform& platform, const Folders& folders, int row) {
-    const ItemRecord& record = editor.Record(row);
+    const RecordView& record = editor.Record(row);
     editor.txtItem[NameText].text = ItemName(record);
     editor.txtItem[WeightText].text = record[WeightField];
     editor.txtItem[PriceText].text = WithoutLast(record[PriceField]);

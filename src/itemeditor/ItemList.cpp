@@ -23,7 +23,7 @@ void InsertSorted(ItemEditor& editor, int record) {
 
 } // namespace
 
-std::string_view ItemCell(const ItemRecord& record, int column) {
+std::string_view ItemCell(const RecordView& record, int column) {
     return column == ItemNameColumn ? ItemName(record) : std::string_view(record[PriceField]);
 }
 

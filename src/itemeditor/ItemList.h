@@ -12,7 +12,7 @@ namespace emporium {
 enum ItemColumn { ItemNameColumn, ItemPriceColumn, ItemColumnCount };
 
 /// What the list shows for a record: the name without its Wert digit, or the price as stored.
-std::string_view ItemCell(const ItemRecord& record, int column);
+std::string_view ItemCell(const RecordView& record, int column);
 
 /// Shows all records of Items, in the sort order.
 void FillItemList(ItemEditor& editor);

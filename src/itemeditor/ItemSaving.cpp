@@ -35,32 +35,78 @@ bool ReportNotWhole(const Platform& platform, const std::string& category) {
     return false;
 }
 
-// The bytes of one of the view's files with the change applied.
-std::string FileTextWith(const ItemEditor& editor, int home, const RowChange& change) {
-    std::string text;
-    for (int row = 0; row < editor.ItemCount(); ++row) {
-        if (editor.ItemHomeCategories[static_cast<std::size_t>(row)] != home)
-            continue;
-        const ItemRecord* record = row == change.row ? change.record : &editor.Record(row);
-        if (record)
-            AppendRecord(text, *record);
-    }
-    if (change.row == editor.ItemCount())
-        AppendRecord(text, *change.record);
-    return text;
+bool AskToReload(const Platform& platform, const std::string& category) {
+    return platform.AskYesNo(
+        {category +
+             std::string(".dat wurde inzwischen von einem anderen Programm geändert. Soll der neue "
+                         "Stand geladen werden ?\n\n"
+                         "Ja: Die Liste zeigt den neuen Stand. Gespeichert wird nichts, eure "
+                         "Eingaben bleiben im Formular.\n"
+                         "Nein: Der Stand dieses Fensters wird gespeichert, die andere Änderung "
+                         "geht verloren."_ansi),
+         BoxIcon::Warning, std::string(ProgramTitle)});
 }
 
-// Writes the file that the row belongs to, together with `others`. False, after a box, if it
-// failed.
-bool RebuildCategoryFiles(const ItemEditor& editor, const Platform& platform,
-                          const Folders& folders, int home, const RowChange& change,
-                          std::vector<FileChange> others, std::string_view what) {
-    const ViewFile& file = editor.viewFiles[static_cast<std::size_t>(home)];
+// True if the file may be written: it holds what was last read or written, or the user wants to go
+// on all the same.
+bool MayReplace(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
+                std::string_view what) {
+    const ViewFile file = editor.viewFiles[static_cast<std::size_t>(home)];
     if (!file.canBeWritten)
         return ReportNotWhole(platform, file.name);
-    others.push_back({CategoryPath(folders, file.name), FileTextWith(editor, home, change)});
-    return !ReportFailure(platform, what,
-                          WriteFiles(platform.files, folders.EmporiumFolder(), others));
+    if (!ReadyToWrite(platform, folders))
+        return false;
+    const auto path = CategoryPath(folders, file.name);
+    const FileText present = platform.files.read(path);
+    if (present.state == FileText::State::Unreadable)
+        return !ReportFailure(platform, what, FileFailure{path, present.reason});
+    if (present.bytes == *file.bytes)
+        return true;
+    const bool reload = AskToReload(platform, file.name);
+    if (reload)
+        ReloadItems(editor, platform, folders);
+    return !reload;
+}
+
+std::string FileTextWith(const ItemEditor& editor, std::string_view bytes,
+                         const RowChange& change) {
+    if (change.row == editor.ItemCount())
+        return WithRecords(bytes, {*change.record});
+    const RecordView& place = editor.Record(change.row);
+    return change.record ? WithRecordAt(bytes, place, *change.record)
+                         : WithoutRecordAt(bytes, place);
+}
+
+// The records as the file holds them now.
+void TakeOver(ItemEditor& editor, int home, const RowChange& change, SharedText text) {
+    if (change.row == editor.ItemCount()) {
+        editor.Items.emplace_back();
+        editor.ItemHomeCategories.push_back(home);
+    } else if (!change.record) {
+        editor.Items.erase(editor.Items.begin() + change.row);
+        editor.ItemHomeCategories.erase(editor.ItemHomeCategories.begin() + change.row);
+    }
+    RecordReader reader(*text);
+    for (std::size_t row = 0; row < editor.Items.size(); ++row)
+        if (editor.ItemHomeCategories[row] == home)
+            reader.Next(editor.Items[row]);
+    editor.viewFiles[static_cast<std::size_t>(home)].bytes = std::move(text);
+}
+
+// Writes the file that the row belongs to, together with `others`, and takes the change over into
+// the records. False, after a box, if nothing was written.
+bool RebuildCategoryFiles(ItemEditor& editor, const Platform& platform, const Folders& folders,
+                          int home, const RowChange& change, std::vector<FileChange> others,
+                          std::string_view what) {
+    if (!MayReplace(editor, platform, folders, home, what))
+        return false;
+    const ViewFile& file = editor.viewFiles[static_cast<std::size_t>(home)];
+    auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
+    others.push_back({CategoryPath(folders, file.name), *text});
+    if (ReportFailure(platform, what, WriteFiles(platform.files, folders.EmporiumFolder(), others)))
+        return false;
+    TakeOver(editor, home, change, std::move(text));
+    return true;
 }
 
 int HomeOf(const ItemEditor& editor, int row) {
@@ -72,10 +118,7 @@ void EndEditing(ItemEditor& editor) {
     editor.EditingExisting = false;
 }
 
-// The item list and the records without the row.
-void TakeOut(ItemEditor& editor, int row) {
-    editor.Items.erase(editor.Items.begin() + row);
-    editor.ItemHomeCategories.erase(editor.ItemHomeCategories.begin() + row);
+void DropRow(ItemEditor& editor, int row) {
     DropItemRow(editor, row);
     editor.CurrentItemRow = std::min(row, editor.ItemCount() - 1);
     editor.lvGegenstände.toolTip.clear();
@@ -88,25 +131,31 @@ void RemoveItemRow(ItemEditor& editor, const Platform& platform, const Folders& 
     if (!RebuildCategoryFiles(editor, platform, folders, HomeOf(editor, row), {row, nullptr},
                               std::move(others), what))
         return;
-    TakeOut(editor, row);
+    DropRow(editor, row);
     EndEditing(editor);
     UpdateItemButtons(editor);
     editor.cmdItemSave.enabled = false;
 }
 
 // The file of another category with the record behind its last one. False, after a box, if that
-// file can't be read whole.
+// file can't be read whole or is full.
 bool AppendedTo(const Platform& platform, const Folders& folders, const std::string& category,
                 const ItemRecord& record, std::vector<FileChange>& changes) {
+    if (!ReadyToWrite(platform, folders))
+        return false;
     const CategoryFile file = ReadCategoryFile(platform.files, folders, category);
     if (!file.CanBeWritten())
         return ReportNotWhole(platform, category);
-    changes.push_back({CategoryPath(folders, category), WithRecords(file, {record})});
+    if (file.records.size() >= MaxRows) {
+        platform.ShowMessage(category + ".dat: " + std::string(CategoryIsFull));
+        return false;
+    }
+    changes.push_back({CategoryPath(folders, category), WithRecords(*file.bytes, {record})});
     return true;
 }
 
 void MoveItem(ItemEditor& editor, const Platform& platform, const Folders& folders) {
-    const ItemRecord& stored = editor.Record(editor.CurrentItemRow);
+    const ItemRecord stored = CopyOf(editor.Record(editor.CurrentItemRow));
     std::vector<FileChange> target;
     if (AppendedTo(platform, folders, editor.cmbItemKategorien.Text(), stored, target))
         RemoveItemRow(editor, platform, folders, std::move(target), NotSaved);
@@ -130,21 +179,19 @@ void SaveMoved(ItemEditor& editor, const Platform& platform, const Folders& fold
 }
 
 void SaveChanged(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                 ItemRecord record) {
+                 const ItemRecord& record) {
     const int row = editor.CurrentItemRow;
-    auto& stored = editor.Items[static_cast<std::size_t>(row)];
-    if (record != stored) {
+    if (ViewOf(record) != editor.Record(row)) {
         if (!RebuildCategoryFiles(editor, platform, folders, HomeOf(editor, row), {row, &record},
                                   {}, NotSaved))
             return;
-        stored = std::move(record);
         PlaceItemRow(editor, row);
     }
     EndEditing(editor);
 }
 
 void AddToView(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
-               ItemRecord record) {
+               const ItemRecord& record) {
     const int row = editor.ItemCount();
     if (row == MaxRows) {
         platform.ShowMessage("Die Ansicht ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi);
@@ -152,8 +199,6 @@ void AddToView(ItemEditor& editor, const Platform& platform, const Folders& fold
     }
     if (!RebuildCategoryFiles(editor, platform, folders, home, {row, &record}, {}, NotSaved))
         return;
-    editor.Items.push_back(std::move(record));
-    editor.ItemHomeCategories.push_back(home);
     AddItemRow(editor, row);
     editor.CurrentItemRow = std::max(editor.CurrentItemRow, 0);
     UpdateItemButtons(editor);
@@ -173,13 +218,13 @@ void AddWithoutView(ItemEditor& editor, const Platform& platform, const Folders&
 }
 
 void SaveNew(ItemEditor& editor, const Platform& platform, const Folders& folders,
-             ItemRecord record) {
+             const ItemRecord& record) {
     const std::string view = editor.cmbKategorien.Text();
     const std::string wanted = editor.cmbItemKategorien.Text();
     const bool ownHome = !view.empty() && view != AllCategories;
     const int home = ViewFileOf(editor, ownHome ? view : wanted);
     if (home >= 0)
-        AddToView(editor, platform, folders, home, std::move(record));
+        AddToView(editor, platform, folders, home, record);
     else if (view.empty() && !wanted.empty() && wanted != AllCategories)
         AddWithoutView(editor, platform, folders, record);
     else

@@ -1,6 +1,7 @@
 // Turning the item form into stored data: a new record, a changed one, one that moves to another
 // category, or a deletion. The files are written first; only what stands on disk then enters the
-// records and the list. If a file can't be written, a box says so and everything stays.
+// records and the list. If a file can't be written, a box says so and everything stays. If another
+// program changed the file meanwhile, a box asks whether to show its new state or to go on.
 #pragma once
 
 #include "base/Platform.h"

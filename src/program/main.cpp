@@ -6,6 +6,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
     emporium::ui::MainWindow window(emporium::RunningProgramFolder());
+    if (!window.Started())
+        return 0;
     window.show();
     return QApplication::exec();
 }

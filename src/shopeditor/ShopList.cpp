@@ -75,7 +75,7 @@ void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& pl
         platform.ShowMessage(ShopFullText);
         return;
     }
-    const ItemRecord& record = items.Record(items.CurrentItemRow);
+    const RecordView& record = items.Record(items.CurrentItemRow);
     AddShopRow(shop, MakeShopRow(record[NameField], record[WeightField], record[PriceField],
                                  record[AvailabilityField]));
     UpdateShopButtons(shop);

@@ -5,6 +5,7 @@
 #include "base/LineReader.h"
 #include "store/CategoryFiles.h"
 
+#include <algorithm>
 #include <array>
 #include <unordered_set>
 
@@ -60,7 +61,7 @@ std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm
                                    const CategoryFile& category) {
     std::unordered_set<std::string_view> present;
     present.reserve(category.records.size());
-    for (const ItemRecord& record : category.records)
+    for (const RecordView& record : category.records)
         present.insert(ItemName(record));
     std::vector<ItemRecord> added;
     LineReader source(sourceText);
@@ -71,6 +72,16 @@ std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm
         if (present.count(lines[0]) == 0 && CanBeItem(lines, form))
             added.push_back(ToItemRecord(lines, form));
     return added;
+}
+
+// Leaves out what the category has no room for.
+void FitInto(const CategoryFile& category, std::string_view name, std::vector<ItemRecord>& added,
+             std::vector<std::string>& faults) {
+    const auto room = MaxRows - std::min<std::size_t>(MaxRows, category.records.size());
+    if (added.size() <= room)
+        return;
+    added.resize(room);
+    faults.push_back(std::string(name).append(".dat: ").append(CategoryIsFull));
 }
 
 std::string FaultLine(const std::filesystem::path& file, const std::error_code& reason) {
@@ -91,11 +102,12 @@ void ImportCategory(const FileLayer& files, const Folders& folders, std::string_
         faults.insert(faults.end(), found.begin(), found.end());
         return;
     }
-    const auto added = NewRecords(source.bytes, form, category);
+    auto added = NewRecords(source.bytes, form, category);
+    FitInto(category, name, added, faults);
     if (added.empty())
         return;
     const auto file = CategoryPath(folders, name);
-    if (const auto failure = WriteFile(files, file, WithRecords(category, added)))
+    if (const auto failure = WriteFile(files, file, WithRecords(*category.bytes, added)))
         faults.push_back(FaultLine(failure->file, failure->reason));
 }
 

@@ -1,6 +1,5 @@
 #include "store/CategoryFiles.h"
 
-#include "base/Ansi.h"
 #include "base/FileWriting.h"
 #include "base/LineReader.h"
 
@@ -27,9 +26,68 @@ bool IsDeviceName(std::string_view name) {
            numbers.find(folded.back()) != numbers.npos;
 }
 
+// CR LF, or what ends the text's first line if that is a lone LF.
+std::string_view LineEndOf(std::string_view text) {
+    const auto end = text.find('\n');
+    return end == text.npos || (end > 0 && text[end - 1] == '\r') ? LineEnd : "\n";
+}
+
+void EndLastLine(std::string& text, std::string_view lineEnd) {
+    if (!text.empty() && text.back() != '\n')
+        text.append(lineEnd);
+}
+
+std::string RecordText(const RecordView& record, std::string_view lineEnd) {
+    std::string text;
+    for (const std::string_view field : record)
+        text.append(field).append(lineEnd);
+    return text;
+}
+
+// The bytes before the record, and those behind the end of its last line.
+std::pair<std::string_view, std::string_view> AroundRecord(std::string_view bytes,
+                                                           const RecordView& place) {
+    const std::string_view last = place.back();
+    const auto begin = static_cast<std::size_t>(place.front().data() - bytes.data());
+    const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
+    const auto end = bytes.find('\n', lastEnd);
+    return {bytes.substr(0, begin), end == bytes.npos ? "" : bytes.substr(end + 1)};
+}
+
+std::vector<std::string> NamesIn(std::string_view listText) {
+    std::vector<std::string> names;
+    std::unordered_set<std::string_view> seen = {"", AllCategories};
+    LineReader lines(listText);
+    std::string_view line;
+    lines.Next(line);
+    while (lines.Next(line))
+        if (seen.insert(line).second)
+            names.emplace_back(line);
+    return names;
+}
+
+// The list's text with the number of its names on the first line.
+std::string Numbered(std::string_view listText) {
+    const auto end = listText.find('\n');
+    return " " + std::to_string(NamesIn(listText).size()) + " " + std::string(LineEndOf(listText)) +
+           std::string(end == listText.npos ? "" : listText.substr(end + 1));
+}
+
 } // namespace
 
-std::string_view ItemName(const ItemRecord& record) {
+RecordView ViewOf(const ItemRecord& record) {
+    RecordView view;
+    std::copy(record.begin(), record.end(), view.begin());
+    return view;
+}
+
+ItemRecord CopyOf(const RecordView& record) {
+    ItemRecord copy;
+    std::copy(record.begin(), record.end(), copy.begin());
+    return copy;
+}
+
+std::string_view ItemName(const RecordView& record) {
     return WithoutLast(record[NameField]);
 }
 
@@ -69,26 +127,33 @@ bool IsPlainName(std::string_view name) {
 }
 
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
-    const FileText text = files.read(CategoryListPath(folders));
-    CategoryList list{text.state, text.reason, {}};
+    FileText text = files.read(CategoryListPath(folders));
+    CategoryList list{text.state, text.reason, std::move(text.bytes), {}};
     if (text.state == FileText::State::Absent)
         list.reason = std::make_error_code(std::errc::no_such_file_or_directory);
-    std::unordered_set<std::string_view> seen = {"", AllCategories};
-    LineReader lines(text.bytes);
-    std::string_view line;
-    lines.Next(line);
-    while (lines.Next(line))
-        if (seen.insert(line).second)
-            list.names.emplace_back(line);
+    list.names = NamesIn(list.bytes);
     return list;
 }
 
-std::string CategoryListText(const std::vector<std::string>& names) {
-    std::string text = " " + std::to_string(names.size()) + " ";
-    text += LineEnd;
-    for (const std::string& name : names)
-        text.append(name).append(LineEnd);
-    return text;
+std::string WithCategory(const CategoryList& list, std::string_view name) {
+    const std::string_view lineEnd = LineEndOf(list.bytes);
+    std::string text = list.bytes;
+    if (text.empty())
+        text += lineEnd;
+    EndLastLine(text, lineEnd);
+    return Numbered(text.append(name).append(lineEnd));
+}
+
+std::string WithoutCategory(const CategoryList& list, std::string_view name) {
+    const std::string_view lineEnd = LineEndOf(list.bytes);
+    LineReader lines(list.bytes);
+    std::string_view line;
+    lines.Next(line);
+    std::string text = std::string(line).append(lineEnd);
+    while (lines.Next(line))
+        if (line != name)
+            text.append(line).append(lineEnd);
+    return Numbered(text);
 }
 
 bool RecordReader::Next(RecordView& record) {
@@ -102,35 +167,37 @@ bool RecordReader::Next(RecordView& record) {
 
 CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
                               std::string_view name) {
-    CategoryFile file;
-    if (!IsPlainName(name)) {
-        file.state = FileText::State::Unreadable;
-        file.reason = std::make_error_code(std::errc::invalid_argument);
-        return file;
-    }
-    FileText text = files.read(CategoryPath(folders, name));
-    file.state = text.state;
-    file.reason = text.reason;
-    file.bytes = std::move(text.bytes);
-    RecordReader reader(file.bytes);
-    for (RecordView lines; reader.Next(lines);)
-        std::copy(lines.begin(), lines.end(), file.records.emplace_back().begin());
+    FileText text{
+        FileText::State::Unreadable, {}, std::make_error_code(std::errc::invalid_argument)};
+    if (IsPlainName(name))
+        text = files.read(CategoryPath(folders, name));
+    CategoryFile file{
+        text.state, text.reason, std::make_shared<const std::string>(std::move(text.bytes)), {}};
+    RecordReader reader(*file.bytes);
+    for (RecordView record; reader.Next(record);)
+        file.records.push_back(record);
     file.cutOff = reader.CutOff();
     return file;
 }
 
-void AppendRecord(std::string& text, const ItemRecord& record) {
-    for (const std::string& field : record)
-        text.append(field).append(LineEnd);
+std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& records) {
+    const std::string_view lineEnd = LineEndOf(bytes);
+    std::string text(bytes);
+    EndLastLine(text, lineEnd);
+    for (const ItemRecord& record : records)
+        text += RecordText(ViewOf(record), lineEnd);
+    return text;
 }
 
-std::string WithRecords(const CategoryFile& file, const std::vector<ItemRecord>& records) {
-    std::string text = file.bytes;
-    if (!text.empty() && text.back() != '\n')
-        text += LineEnd;
-    for (const ItemRecord& record : records)
-        AppendRecord(text, record);
-    return text;
+std::string WithRecordAt(std::string_view bytes, const RecordView& place,
+                         const ItemRecord& record) {
+    const auto [before, behind] = AroundRecord(bytes, place);
+    return std::string(before) + RecordText(ViewOf(record), LineEndOf(bytes)) + std::string(behind);
+}
+
+std::string WithoutRecordAt(std::string_view bytes, const RecordView& place) {
+    const auto [before, behind] = AroundRecord(bytes, place);
+    return std::string(before) + std::string(behind);
 }
 
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file) {
@@ -145,7 +212,7 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
     if (file.cutOff)
         add("Der letzte Datensatz ist nicht vollständig. Die Datei wird nur angezeigt und nicht verändert."_ansi);
     const auto flawed =
-        std::count_if(file.records.begin(), file.records.end(), [](const ItemRecord& r) {
+        std::count_if(file.records.begin(), file.records.end(), [](const RecordView& r) {
             return r[NameField].empty() || r[PriceField].empty();
         });
     if (flawed > 0)

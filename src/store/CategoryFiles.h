@@ -2,12 +2,14 @@
 // category. Reading tells what it came to; writing is FileWriting's.
 #pragma once
 
+#include "base/Ansi.h"
 #include "base/FileLayer.h"
 #include "base/LineReader.h"
 #include "base/Variablen.h"
 
 #include <array>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,10 +26,14 @@ enum ItemField : std::size_t {
     ItemFieldCount
 };
 
+/// A record that stands nowhere yet.
 using ItemRecord = std::array<std::string, ItemFieldCount>;
 
 /// A record within the text of its file.
 using RecordView = std::array<std::string_view, ItemFieldCount>;
+
+RecordView ViewOf(const ItemRecord& record);
+ItemRecord CopyOf(const RecordView& record);
 
 /// The records of a category file's text, one after the other.
 class RecordReader {
@@ -47,10 +53,14 @@ private:
 };
 
 /// The name without its Wert digit.
-std::string_view ItemName(const ItemRecord& record);
+std::string_view ItemName(const RecordView& record);
 
 /// The view over all categories; no category itself.
 inline constexpr std::string_view AllCategories = "Alles";
+
+/// What the user is told of a record that a category has no room for.
+inline constexpr std::string_view CategoryIsFull =
+    "Die Kategorie ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi;
 
 /// The categories that the import fills. They can't be deleted.
 const std::array<std::string_view, 3>& FixedCategories();
@@ -66,21 +76,27 @@ bool IsPlainName(std::string_view name);
 
 struct CategoryList {
     FileText::State state = FileText::State::Absent;
-    std::error_code reason;         // unless whole
+    std::error_code reason; // unless whole
+    std::string bytes;
     std::vector<std::string> names; // in file order; without empty lines, repetitions and "Alles"
 };
 
 /// The names behind the first line. What the first line counts is not looked at.
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders);
 
-/// The bytes of a category list.
-std::string CategoryListText(const std::vector<std::string>& names);
+/// The bytes of the list with a further name, or without one, and with the right number on its
+/// first line. All other lines stay.
+std::string WithCategory(const CategoryList& list, std::string_view name);
+std::string WithoutCategory(const CategoryList& list, std::string_view name);
+
+/// A file's bytes, shared with the views of its records.
+using SharedText = std::shared_ptr<const std::string>;
 
 struct CategoryFile {
     FileText::State state = FileText::State::Absent;
     std::error_code reason;
-    std::string bytes;
-    std::vector<ItemRecord> records; // the whole records
+    SharedText bytes;
+    std::vector<RecordView> records; // the whole records, within bytes
     bool cutOff = false;             // lines are left over behind the last whole record
 
     /// True if the records are all that the file holds, so that it may be written again.
@@ -91,11 +107,12 @@ struct CategoryFile {
 CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
                               std::string_view name);
 
-/// Appends the five lines of the record.
-void AppendRecord(std::string& text, const ItemRecord& record);
-
-/// The bytes of the file with further records behind those that it has.
-std::string WithRecords(const CategoryFile& file, const std::vector<ItemRecord>& records);
+/// The bytes of a category file with further records behind those that it has, with another record
+/// in the place of one, or with one taken out. `place` is a record within these bytes. All other
+/// bytes stay as they are, and new lines end as the file's lines do.
+std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& records);
+std::string WithRecordAt(std::string_view bytes, const RecordView& place, const ItemRecord& record);
+std::string WithoutRecordAt(std::string_view bytes, const RecordView& place);
 
 /// What the user should know of the file, one line for each fault: missing, unreadable, cut off,
 /// records with an empty name or price line. Empty if all is well.

@@ -60,7 +60,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     connect(browser_, &HtmlView::navigateComplete, this,
             [this] { session_.state.print.PreviewReady = true; });
     session_.mirror.Bind([this] { MirrorWindow(); });
-    session_.Do([&] { StartUp(session_.state, session_.platform, programFolder); });
+    session_.Do([&] { started_ = StartUp(session_.state, session_.platform, programFolder); });
     LoadPictures();
 }
 

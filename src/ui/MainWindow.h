@@ -21,6 +21,9 @@ public:
     explicit MainWindow(const std::filesystem::path& programFolder);
     ~MainWindow() override;
 
+    /// False if the user does not want to go on beside another running copy of the program.
+    bool Started() const { return started_; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -34,6 +37,7 @@ private:
 
     Session session_;
     Dice dice_;
+    bool started_ = false;
     bool closed_ = false;
 
     QWidget* controls_; // everything that takes input

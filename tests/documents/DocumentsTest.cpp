@@ -91,7 +91,7 @@ TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
     editor.Items = {{"Zange 23", "12", "8S", "Text", "GA|PU|"},
-                    {std::string("Ähre1"_ansi), "0,5", "3H", "", ""},
+                    {"Ähre1"_ansi, "0,5", "3H", "", ""},
                     {"Beil2", "", "5S", "", FullAvailability()}};
     FillItemList(editor);
     const std::string top = Head("Alles") + TableTop + Lines({RegionsCaption, "</tr>"});

@@ -80,7 +80,7 @@ protected:
         model.list = world.editor.CategoryNames;
         for (const std::string& name : model.list) {
             world.View(name);
-            model.files[name] = world.editor.Items;
+            model.files[name] = world.Records();
         }
         model.Load(model.list.back());
     }
@@ -221,7 +221,7 @@ protected:
         std::vector<ItemRecord> records;
         for (const Row& row : model.rows)
             records.push_back(row.record);
-        ASSERT_EQ(editor.Items, records);
+        ASSERT_EQ(world.Records(), records);
         std::vector<int> order(records.size());
         std::iota(order.begin(), order.end(), 0);
         std::stable_sort(order.begin(), order.end(), [&](int left, int right) {

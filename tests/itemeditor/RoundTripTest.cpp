@@ -12,7 +12,7 @@ void ExpectSameBytes(EditorAtWork& world) {
     views.emplace_back(AllCategories);
     for (const std::string& view : views) {
         world.View(view);
-        const auto records = world.editor.Items;
+        const auto records = world.Records();
         for (int row = 0; row < world.editor.ItemCount(); ++row) {
             world.Open(row);
             EXPECT_TRUE(world.editor.cmdItemSave.enabled) << world.editor.txtItem[NameText].text;
@@ -28,7 +28,7 @@ void ExpectSameBytes(EditorAtWork& world) {
                 world.Save();
             }
         EXPECT_TRUE(world.Files() == files) << view;
-        EXPECT_EQ(world.editor.Items, records) << view;
+        EXPECT_EQ(world.Records(), records) << view;
     }
 }
 

@@ -106,7 +106,7 @@ TEST(CategoryNames, NamesThatAreTakenOrThatNoFileCanBearAreRefused) {
     for (const std::string& name : good) {
         EXPECT_EQ(refusal(name), "") << name;
         program.Write("Emporium/" + name + ".dat", name);
-        EXPECT_EQ(ReadCategoryFile(SystemFiles(), program.folders, name).bytes, name);
+        EXPECT_EQ(*ReadCategoryFile(SystemFiles(), program.folders, name).bytes, name);
         EXPECT_NE(refusal(name), "") << "its file stands now";
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Ansi.h"
+#include "base/FileWriting.h"
 #include "itemeditor/AvailabilityEditor.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
@@ -104,7 +105,7 @@ public:
 
     /// Types and picks all of a record; a mark that is none leaves its list without a choice.
     void Fill(const ItemRecord& record) {
-        EditItemText(editor, NameText, std::string(ItemName(record)));
+        EditItemText(editor, NameText, std::string(WithoutLast(record[NameField])));
         EditItemText(editor, WeightText, record[WeightField]);
         EditItemText(editor, PriceText, std::string(WithoutLast(record[PriceField])));
         EditItemText(editor, DescriptionText, record[DescriptionField]);
@@ -135,6 +136,14 @@ public:
         return names;
     }
 
+    /// The records of the view.
+    std::vector<ItemRecord> Records() const {
+        std::vector<ItemRecord> records;
+        for (const RecordView& record : editor.Items)
+            records.push_back(CopyOf(record));
+        return records;
+    }
+
     /// The bytes of a category's file.
     std::string File(std::string_view category) const {
         return program.Read(std::string("Emporium/").append(category).append(".dat"));
@@ -160,7 +169,7 @@ public:
                 out << entry << ';';
             out << '\n';
         };
-        for (const ItemRecord& record : editor.Items)
+        for (const RecordView& record : editor.Items)
             put(record);
         put(editor.CategoryNames);
         put(editor.ItemHomeCategories);
@@ -181,29 +190,56 @@ public:
     }
 };
 
-/// Runs the act in worlds of their own, each time with the next file operation failing: either a
-/// box tells it and files, records and controls stand as before, or all is as without the failure.
+/// Runs the act in worlds of their own, each time with the n-th file operation failing once,
+/// failing from then on, or being the last of a killed program. A failure is told in one box, and
+/// files, records and controls stand as before, or all is as without it; when its cause is gone,
+/// the same act works. After a restart nothing is left of the interruption.
 inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
                                const std::function<void(EditorAtWork&)>& act) {
     EditorAtWork whole;
     prepare(whole);
+    const auto filesBefore = whole.Files();
+    const auto stateBefore = whole.State();
     act(whole);
-    for (int n = 1;; ++n) {
-        SCOPED_TRACE("file operation " + std::to_string(n));
+    bool fired = true;
+    const auto attempt = [&](Fault fault, int n) {
+        SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at file operation " +
+                     std::to_string(n));
         EditorAtWork world;
         prepare(world);
-        const auto files = world.Files();
-        const auto state = world.State();
+        const FileLayer sound = world.script.platform.files;
         int boxes = 0;
         world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
-        const FaultyFiles faulty(Fault::Once, n);
+        const FaultyFiles faulty(fault, n);
         world.script.platform.files = faulty.files;
-        act(world);
-        EXPECT_LE(boxes, 1);
-        EXPECT_EQ(world.Files(), boxes > 0 ? files : whole.Files());
-        EXPECT_EQ(world.State(), boxes > 0 ? state : whole.State());
-        if (!faulty.HasFired())
-            break;
+        try {
+            act(world);
+            EXPECT_LE(boxes, 1);
+            EXPECT_EQ(world.State(), boxes > 0 ? stateBefore : whole.State());
+            EXPECT_TRUE(fault == Fault::Lasting ||
+                        world.Files() == (boxes > 0 ? filesBefore : whole.Files()));
+        } catch (const KilledHere&) {
+        }
+        fired = faulty.HasFired();
+        world.script.Forget();
+        world.script.platform.files = sound;
+        if (boxes > 0 && fault == Fault::Once) {
+            act(world);
+            EXPECT_EQ(world.Files(), whole.Files());
+            EXPECT_EQ(world.State(), whole.State());
+            return;
+        }
+        EXPECT_FALSE(FinishInterruptedWrites(sound, world.program.folders.EmporiumFolder()));
+        const std::filesystem::directory_iterator all(world.program.folders.EmporiumFolder());
+        const auto files = world.Files();
+        EXPECT_EQ(std::distance(begin(all), end(all)), std::ssize(files)) << "a stray file";
+        EXPECT_TRUE(files == whole.Files() || files == filesBefore)
+            << testing::PrintToString(files);
+    };
+    for (const Fault fault : {Fault::Once, Fault::Lasting, Fault::Killed}) {
+        fired = true;
+        for (int n = 1; fired; ++n)
+            attempt(fault, n);
     }
 }
 

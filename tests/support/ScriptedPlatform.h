@@ -59,6 +59,9 @@ public:
         script_.push_back({"message", std::string(beginning), {}});
     }
 
+    /// What was expected need not come any more.
+    void Forget() { script_.clear(); }
+
     /// The throws to come; a throw beyond them fails the test.
     void Throw(const std::vector<int>& throws) {
         throws_.insert(throws_.end(), throws.begin(), throws.end());
