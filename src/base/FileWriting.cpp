@@ -335,7 +335,7 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
-    static constexpr std::array<Known, 12> known = {{
+    static constexpr std::array<Known, 14> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert oder die Datei ist "
                                        "schreibgeschützt."_ansi},
@@ -343,6 +343,8 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::read_only_file_system, "Der Datenträger ist schreibgeschützt."_ansi},
         {std::errc::io_error, "Beim Lesen oder Schreiben ist ein Fehler aufgetreten."},
         {std::errc::too_many_files_open, "Es sind zu viele Dateien geöffnet."_ansi},
+        {std::errc::too_many_files_open_in_system, "Es sind zu viele Dateien geöffnet."_ansi},
+        {std::errc::device_or_resource_busy, "Ein anderes Programm benutzt die Datei gerade."},
         {std::errc::no_such_file_or_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::not_a_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},

@@ -135,8 +135,9 @@ FolderClaim Claim(const Path& folder) {
 
 #else
 
+// A quota that is used up is a full disk to its user.
 std::error_code LastError() {
-    return {errno, std::generic_category()};
+    return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
 FileText ReadOpened(int descriptor) {

@@ -121,12 +121,27 @@ TEST(InterruptedWrites, WhatLiesBehindLinksIsFinishedToo) {
         FaultyFiles faulty(Fault::Killed, n);
         killed = !disk.Write({{"a.dat", "neu a"}, {"link.dat", "neu"}}, faulty.files);
         disk.Finish();
+        EXPECT_EQ(std::distance(fs::directory_iterator(elsewhere.root), {}), 7) << "a stray file";
         const bool isNew = disk.program.Read("Emporium/a.dat") == "neu a";
         EXPECT_EQ(SystemFiles().read(target).bytes, isNew ? "neu" : "alt") << n;
         EXPECT_TRUE(fs::is_symlink(disk.folder / "link.dat"));
         finishedNew += isNew && killed ? 1 : 0;
     }
     EXPECT_GT(finishedNew, 0);
+}
+
+TEST(InterruptedWrites, AJournalWhoseContentsAreLostTakesNothingAway) {
+    const Disk disk;
+    std::ofstream(disk.folder / "b.dat.orvan-neu0") << "neu b";
+    std::ofstream(disk.folder / JournalName)
+        << JournalText({{"b.dat.orvan-neu0", "b.dat", 5, Checksum("neu b")},
+                        {"c.dat.orvan-neu0", "c.dat", 5, Checksum("neu c")},
+                        {"", "a.dat", 0, Checksum("")}});
+    const auto failure = FinishJournal(SystemFiles(), disk.folder);
+    EXPECT_TRUE(failure && failure->file == disk.folder / "c.dat");
+    for (const std::string name : {"a.dat", "b.dat", "c.dat"})
+        EXPECT_EQ(disk.program.Read("Emporium/" + name), "alt " + name);
+    EXPECT_FALSE(FinishJournal(SystemFiles(), disk.folder)) << "told once";
 }
 
 TEST(InterruptedWrites, WithoutAWholeJournalNothingButTemporariesGoes) {

@@ -1,5 +1,6 @@
 #include "base/Ansi.h"
 #include "frame/frmEmporiumMain.h"
+#include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -8,26 +9,105 @@
 namespace emporium::test {
 namespace {
 
-TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
-    const ProgramFolder program;
+namespace fs = std::filesystem;
+
+const std::string Older = Lines({"Armbrust4", "90", "40D", "", ""});
+const std::string Replaced = Lines({"Bogen5", "", "1H", "", ""});
+const std::string Imported = Lines({"Bogen1", "40", "15D", "Lang", "BO|"});
+constexpr const char* OlderFile = "Emporium/EmporiumFernwaffen.dat";
+constexpr const char* PresentFile = "Emporium/Fernwaffen.dat";
+
+// A folder with an older category file to be renamed and a weapon to be imported.
+struct Installation {
+    Installation() {
+        std::string source = "Waffen\r\n-\r\nBogen\r\n40\r\n\r\nLang\r\n";
+        for (int line = 4; line < 22; ++line)
+            source += line == 8 ? "15\r\n" : line == 20 ? "Dukaten\r\n" : "BO|\r\n";
+        program.Write("Emporium/ItemKategorien.dat", Lines({" 1 ", "Fernwaffen"}));
+        program.Write("Arsenal/Fernwaffen.dat", source);
+        program.Write(OlderFile, Older);
+        program.Write(PresentFile, Replaced);
+    }
+
+    void ExpectUpToDate() const {
+        EXPECT_EQ(program.Read(PresentFile), Older + Imported);
+        EXPECT_EQ(program.Read(OlderFile), "(absent)");
+        const fs::directory_iterator all(program.folders.EmporiumFolder());
+        EXPECT_EQ(std::distance(begin(all), end(all)), 2) << "a stray file";
+    }
+
+    ProgramFolder program;
     ScriptedPlatform script;
-    std::string source = "Waffen\r\n-\r\nBogen\r\n40\r\n\r\nLang\r\n";
-    for (int line = 4; line < 22; ++line)
-        source += line == 8 ? "15\r\n" : line == 20 ? "Dukaten\r\n" : "BO|\r\n";
-    const std::string older = Lines({"Armbrust4", "90", "40D", "", ""});
-    program.Write("Emporium/ItemKategorien.dat", Lines({" 1 ", "Fernwaffen"}));
-    program.Write("Arsenal/Fernwaffen.dat", source);
-    program.Write("Emporium/EmporiumFernwaffen.dat", older);
-    program.Write("Emporium/Fernwaffen.dat", Lines({"Bogen5", "", "1H", "", ""}));
-    program.Write("Emporium/Fernwaffen.dat.orvan-neu0", "what a killed run left");
+};
+
+TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
+    const Installation here;
+    for (const char* file : {"Emporium/Fernwaffen.dat.orvan-neu0", "../Temp/Temp.html.orvan-neu1"})
+        here.program.Write(file, "what a killed run left");
     for (int start = 0; start < 2; ++start) {
         frmEmporiumMain window;
-        StartUp(window, script.platform, program.root);
-        EXPECT_EQ(program.Read("Emporium/Fernwaffen.dat"),
-                  older + Lines({"Bogen1", "40", "15D", "Lang", "BO|"}));
-        EXPECT_EQ(program.Read("Emporium/EmporiumFernwaffen.dat"), "(absent)");
-        EXPECT_EQ(program.Read("Emporium/Fernwaffen.dat.orvan-neu0"), "(absent)");
+        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+        here.ExpectUpToDate();
+        EXPECT_TRUE(fs::is_empty(here.program.folders.TempFolder));
     }
+}
+
+// False once there is no n-th operation.
+bool TryStart(Fault fault, int n) {
+    SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at file operation " +
+                 std::to_string(n));
+    Installation here;
+    int boxes = 0;
+    here.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
+    FaultyFiles faulty(fault, n);
+    here.script.platform.files = faulty.files;
+    try {
+        frmEmporiumMain window;
+        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+        EXPECT_LE(boxes, 1);
+    } catch (const KilledHere&) {
+    }
+    const std::string present = here.program.Read(PresentFile);
+    const bool moved = here.program.Read(OlderFile) == "(absent)";
+    EXPECT_TRUE(present == Older || present == Older + Imported ||
+                (!moved && (present == Replaced || present == Replaced + Imported)))
+        << present;
+    frmEmporiumMain window;
+    here.script.platform.files = QuickFiles();
+    EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+    here.ExpectUpToDate();
+    return faulty.HasFired();
+}
+
+TEST(Start, AFaultOrAnEndAtAnyMomentLosesNothing) {
+    for (const Fault fault : {Fault::Once, Fault::Lasting, Fault::Killed})
+        for (int n = 1; TryStart(fault, n);)
+            ++n;
+}
+
+TEST(Start, ASecondCopyIsToldAndLeavesTheFirstOnesWorkAlone) {
+    Installation here;
+    auto first = std::make_unique<frmEmporiumMain>();
+    EXPECT_TRUE(StartUp(*first, here.script.platform, here.program.root));
+    here.program.Write("Emporium/Fernwaffen.dat.orvan-neu0", "what the first is writing");
+    std::vector<std::string> questions;
+    bool goOn = false;
+    here.script.platform.AskYesNo = [&](const YesNoBox& box) {
+        questions.push_back(box.text);
+        return goOn;
+    };
+    for (int i = 0; i < 2; ++i) {
+        frmEmporiumMain second;
+        EXPECT_EQ(StartUp(second, here.script.platform, here.program.root), goOn);
+        EXPECT_EQ(second.items.CategoryNames.size(), goOn ? 1U : 0U);
+        goOn = true;
+    }
+    EXPECT_EQ(questions.size(), 2U);
+    EXPECT_NE(here.program.Read("Emporium/Fernwaffen.dat.orvan-neu0"), "(absent)");
+    first.reset();
+    frmEmporiumMain next;
+    EXPECT_TRUE(StartUp(next, here.script.platform, here.program.root));
+    EXPECT_EQ(questions.size(), 2U);
 }
 
 } // namespace

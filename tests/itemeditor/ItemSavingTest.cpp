@@ -128,12 +128,128 @@ TEST(ItemSaving, AFileThatWasNotReadWholeIsNeverWritten) {
     EXPECT_EQ(world.File("Kleidung"), cutOff);
 }
 
+TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
+    const std::string foreign = Lines({"Fremd1", "", "1H", "", ""});
+    struct World : EditorAtWork {
+        // Kleidung changes behind the open form of the coat.
+        World(const std::string& bytes, bool reload) {
+            View("Kleidung");
+            Open("mantel");
+            Fill(Hat);
+            program.Write("Emporium/Kleidung.dat", bytes);
+            script.platform.AskYesNo = [this, reload](const YesNoBox& box) {
+                const bool aboutChange = box.text.starts_with("Kleidung.dat wurde inzwischen");
+                questions += aboutChange ? 1 : 0;
+                return !aboutChange || reload;
+            };
+        }
+        int questions = 0;
+    };
+    const std::string before = EditorAtWork().File("Kleidung");
+    const std::string coat = RecordLines({Coat});
+    std::string changed = before;
+    std::string without = before;
+    without.erase(before.find(coat), coat.size());
+    changed.replace(before.find(coat), coat.size(), RecordLines({Hat}));
+    for (const auto act :
+         {&EditorAtWork::Save, static_cast<void (EditorAtWork::*)()>(&EditorAtWork::Delete)}) {
+        World goesOn(foreign, false);
+        (goesOn.*act)();
+        EXPECT_EQ(goesOn.File("Kleidung"), act == &EditorAtWork::Save ? changed : without);
+        EXPECT_EQ(goesOn.questions, 1);
+
+        World reloads(foreign + before, true);
+        (reloads.*act)();
+        EXPECT_EQ(reloads.File("Kleidung"), foreign + before) << "nothing is written";
+        EXPECT_EQ(RecordOfForm(reloads.editor), Hat) << "what the user typed stays";
+        EXPECT_TRUE(reloads.Rows().starts_with("Ärmel Fremd"_ansi));
+        reloads.Save();
+        EXPECT_EQ(reloads.File("Kleidung"), foreign + changed) << "still the same item";
+        EXPECT_EQ(reloads.questions, 1);
+    }
+    World vanished(foreign, true);
+    vanished.Save();
+    vanished.Save();
+    EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
+    World moves(foreign + before, true);
+    moves.FormCategory("Abakus");
+    moves.Save();
+    EXPECT_EQ(moves.File("Abakus"), "");
+    moves.Save();
+    EXPECT_EQ(moves.File("Abakus"), coat);
+    EXPECT_EQ(moves.questions, 1);
+}
+
+TEST(ItemSaving, AChangeKeepsEveryByteOfTheNeighbours) {
+    const std::string first = "Seil1\n80\r\n3S\n\x81|\x9D\r\nkeine Region\r\n";
+    const std::string third = "\r\n\r\n\x8F\n \r \n??";
+    for (const std::string_view end : {"\r\n", "\n"}) {
+        const auto lines = [end](const ItemRecord& record) {
+            std::string text;
+            for (const std::string& line : record)
+                text.append(line).append(end);
+            return text;
+        };
+        const std::string begin = lines({"Tau1", "", "1H", "", ""}) + first;
+        EditorAtWork world;
+        world.script.platform.ShowMessage = [](std::string_view) {};
+        world.program.Write("Emporium/Kleidung.dat", "");
+        world.program.Write("Emporium/Abakus.dat", begin + lines(Coat) + third);
+        for (const std::string_view view : {"Abakus", "Alles"}) {
+            world.View(view);
+            world.Open("mantel");
+            world.Fill(Hat);
+            world.Save();
+            EXPECT_EQ(world.File("Abakus"), begin + lines(Hat) + third);
+            world.Open("Hut");
+            world.Fill(Coat);
+            world.Save();
+            EXPECT_EQ(world.File("Abakus"), begin + lines(Coat) + third);
+        }
+        world.Open("mantel");
+        world.Delete(true);
+        EXPECT_EQ(world.File("Abakus"), begin + third);
+        world.FormCategory("Abakus");
+        world.Fill(Hat);
+        world.Save();
+        EXPECT_EQ(world.File("Abakus"), begin + third + std::string(end) + lines(Hat));
+    }
+}
+
+TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
+    EditorAtWork world;
+    const auto create = [&world](std::string_view name) {
+        world.script.ExpectText(NamePrompt, name);
+        NewCategory(world.editor, world.script.platform, world.program.folders);
+    };
+    world.program.Write("Emporium/ItemKategorien.dat", "viele\nAlles\nAbakus\n\nFremd\nKleidung");
+    create("Zelte");
+    EXPECT_EQ(world.File("ItemKategorien"), " 4 \nAlles\nAbakus\n\nFremd\nKleidung\nZelte\n");
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nFremd.dat: Die Datei fehlt.");
+    world.View("Fremd");
+    world.View("Abakus");
+    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+    world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
+    world.program.Write("Emporium/Abakus.dat", "Fremd1\n");
+    DeleteCategory(world.editor, world.script.platform, world.program.folders);
+    EXPECT_EQ(world.File("Abakus"), "Fremd1\n");
+    world.program.Write("Emporium/Abakus.dat", "");
+    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+    DeleteCategory(world.editor, world.script.platform, world.program.folders);
+    EXPECT_EQ(world.File("ItemKategorien"), " 3 \nAlles\n\nFremd\nKleidung\nZelte\n");
+}
+
 TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
     EditorAtWork world;
     std::string bytes;
     for (int i = 0; i < MaxRows; ++i)
         bytes += "Ding1\r\n\r\n1H\r\n\r\n\r\n";
     world.program.Write("Emporium/Abakus.dat", bytes);
+    world.View("Kleidung");
+    world.Open("Zopf");
+    world.FormCategory("Abakus");
+    world.script.ExpectYesNo(MoveQuestion, true);
+    ExpectRefusal(world, "Abakus.dat: Die Kategorie ist voll");
     world.View("Abakus");
     EXPECT_EQ(world.editor.ItemCount(), MaxRows);
     world.Fill({"Neu1", "", "1D", "", ""});
