@@ -22,6 +22,7 @@ struct YesNoBox {
     std::string text;
     BoxIcon icon = BoxIcon::Question;
     std::string caption;
+    bool closingMeansYes = false; // where No is the answer that can't be taken back
 };
 
 struct Platform {
@@ -29,7 +30,7 @@ struct Platform {
 
     Die RollDice;
 
-    /// True only for Yes.
+    /// True for Yes; a box that is closed without an answer counts as No, unless it says otherwise.
     std::function<bool(const YesNoBox& box)> AskYesNo;
 
     /// A message with an exclamation mark and an OK button, captioned with ProgramTitle.

@@ -44,7 +44,7 @@ bool AskToReload(const Platform& platform, const std::string& category) {
                          "Eingaben bleiben im Formular.\n"
                          "Nein: Der Stand dieses Fensters wird gespeichert, die andere Änderung "
                          "geht verloren."_ansi),
-         BoxIcon::Warning, std::string(ProgramTitle)});
+         BoxIcon::Warning, std::string(ProgramTitle), true});
 }
 
 // True if the file may be written: it holds what was last read or written, or the user wants to go

@@ -32,6 +32,7 @@ bool AskYesNo(QWidget& window, const YesNoBox& box) {
                                                 : ToQString(box.caption));
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::Yes);
+    question.setEscapeButton(box.closingMeansYes ? QMessageBox::Yes : QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }
 

@@ -32,6 +32,23 @@ TEST_F(WindowTest, AnItemIsEditedSavedAndDeleted) {
     EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").starts_with("Ahle1"));
 }
 
+TEST_F(WindowTest, EscapeNeverOverwritesWhatAnotherProgramWrote) {
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    driver->ClickRow("lvGegenstände", 2);
+    driver->Type("txtItem0", "Beißzange");
+    const std::string foreign =
+        program.Read("Emporium/Werkzeug.dat") + "Rest1\r\n\r\n1H\r\n\r\n\r\n";
+    program.Write("Emporium/Werkzeug.dat", foreign);
+    driver->Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    driver->Click("cmdItemSave");
+    EXPECT_EQ(program.Read("Emporium/Werkzeug.dat"), foreign);
+    EXPECT_EQ(FieldText(*driver, "txtItem0"), "Beißzange");
+    driver->Click("cmdItemSave");
+    EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").ends_with("Rest1\r\n\r\n1H\r\n\r\n\r\n"));
+    EXPECT_NE(program.Read("Emporium/Werkzeug.dat"), foreign);
+}
+
 TEST_F(WindowTest, ANewItemNeedsItsUnit) {
     Open();
     driver->Pick("cmbKategorien", "Öle");
