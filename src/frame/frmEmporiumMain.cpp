@@ -24,6 +24,21 @@ bool AskDespiteOtherCopy(const Platform& platform) {
          BoxIcon::Warning, std::string(ProgramTitle)});
 }
 
+// Says so at once, or the first failing save would. True if nothing stands in the way of writing.
+bool CheckWriting(const Platform& platform, const Folders& folders) {
+    for (const auto& folder : {folders.EmporiumFolder(), folders.TempFolder})
+        if (const auto failure = TryWriting(platform.files, folder)) {
+            platform.ShowMessage(FailureText(
+                "Das Programm darf in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und "
+                "Läden zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
+                "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
+                "Dokumente, und startet das Programm von dort."_ansi,
+                *failure));
+            return false;
+        }
+    return true;
+}
+
 // While an interrupted write can't be finished, nothing is written on top of it.
 void BringUpToDate(const Platform& platform, const Folders& folders,
                    std::vector<std::string>& faults) {
@@ -44,11 +59,11 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform,
     window.regions = RegionInit();
     const Folders& folders = window.folders;
     window.claim = ClaimFolder(folders.EmporiumFolder());
-    // What another copy is just writing looks like something to be finished.
-    if (!window.claim.takenElsewhere)
-        BringUpToDate(platform, folders, faults);
-    else if (!AskDespiteOtherCopy(platform))
+    if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
+    // What another copy is just writing looks like something to be finished.
+    if (CheckWriting(platform, folders) && !window.claim.takenElsewhere)
+        BringUpToDate(platform, folders, faults);
     ReadCategoryList(window.items, platform.files, folders, faults);
     window.caption = Caption();
     if (!faults.empty())
