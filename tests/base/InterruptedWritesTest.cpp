@@ -211,6 +211,7 @@ TEST(FileWriting, WhatStandsInTheWayIsRefused) {
         EXPECT_FALSE(disk.Write(changes, SystemFiles()).value());
         EXPECT_EQ(disk.Look(), before);
     }
+    fs::permissions(disk.folder / "b.dat", fs::perms::owner_all); // or it could not be removed
 }
 
 TEST(Journal, OnlyAWholeJournalIsRead) {
