@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace emporium {
 
@@ -69,6 +70,12 @@ struct FolderClaim {
 };
 
 FolderClaim ClaimFolder(const std::filesystem::path& folder);
+
+/// What stands at the path, links followed. A write-protected file's owner may not write.
+std::filesystem::file_status StatusOf(const std::filesystem::path& path);
+
+/// What lies in the folder, in no order; nothing if it can't be read.
+std::vector<std::filesystem::path> EntriesOf(const std::filesystem::path& folder);
 
 /// True for a file that the desktop hides from its user.
 bool IsHiddenFile(const std::filesystem::path& file);

@@ -33,8 +33,7 @@ fs::path FollowLinks(fs::path file) {
 
 // A rename would replace a write-protected file as well, so it is asked for before.
 std::error_code CheckWritable(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
+    const fs::file_status status = StatusOf(file);
     if (!fs::exists(status))
         return {};
     if (fs::is_directory(status))
@@ -102,10 +101,9 @@ std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<Fil
             step.before = files.read(step.target);
             error = step.before.reason;
         }
-        std::error_code ignored;
         if (!error && change.contents)
             error = WriteTemporary(files, step.target, *change.contents,
-                                   fs::exists(step.target, ignored), step.temporary);
+                                   fs::exists(StatusOf(step.target)), step.temporary);
         if (error)
             return FileFailure{change.file, error};
         steps.push_back(std::move(step));
@@ -274,16 +272,15 @@ bool IsTemporary(const fs::path& file) {
 // The temporary files in the folder; of another folder only those of the target of a link.
 std::vector<fs::path> FindStrays(const fs::path& folder) {
     std::vector<fs::path> strays;
-    std::error_code error;
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        if (IsTemporary(entry.path()))
-            strays.push_back(entry.path());
-        if (!entry.is_symlink(error))
+    for (const fs::path& entry : EntriesOf(folder)) {
+        if (IsTemporary(entry))
+            strays.push_back(entry);
+        const fs::path target = FollowLinks(entry);
+        if (target == entry)
             continue;
-        const fs::path target = FollowLinks(entry.path());
-        for (const auto& beside : fs::directory_iterator(target.parent_path(), error))
-            if (IsTemporary(beside.path()) && beside.path().stem() == target.filename())
-                strays.push_back(beside.path());
+        for (const fs::path& beside : EntriesOf(target.parent_path()))
+            if (IsTemporary(beside) && beside.stem() == target.filename())
+                strays.push_back(beside);
     }
     return strays;
 }
@@ -325,6 +322,19 @@ std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files, const
     for (const fs::path& stray : FindStrays(folder))
         if (const auto error = files.remove(stray))
             return FileFailure{stray, error};
+    return std::nullopt;
+}
+
+std::optional<FileFailure> TryWriting(const FileLayer& files, const fs::path& folder) {
+    fs::path probe;
+    FileLayer::Handle handle = 0;
+    const auto error = CreateTemporary(files, folder / "Schreibprobe", probe, handle);
+    if (error == std::errc::no_such_file_or_directory)
+        return std::nullopt;
+    if (error)
+        return FileFailure{folder, error};
+    files.close(handle);
+    files.remove(probe);
     return std::nullopt;
 }
 

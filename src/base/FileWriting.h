@@ -47,6 +47,10 @@ std::optional<FileFailure> FinishJournal(const FileLayer& files,
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files,
                                                    const std::filesystem::path& journalFolder);
 
+/// Whether a file can be created in the folder; nothing is left of it. A folder that is missing is
+/// no failure.
+std::optional<FileFailure> TryWriting(const FileLayer& files, const std::filesystem::path& folder);
+
 /// The reason in German, a whole sentence.
 std::string ReasonText(const std::error_code& reason);
 

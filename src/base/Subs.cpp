@@ -3,9 +3,9 @@
 #include "base/Ansi.h"
 #include "base/LineReader.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
-#include <system_error>
 #include <unordered_set>
 
 namespace emporium {
@@ -62,8 +62,7 @@ bool MatchesWildcards(std::u8string_view pattern, std::u8string_view name) {
 }
 
 bool IsNormalFile(const fs::path& file) {
-    std::error_code error;
-    return fs::is_regular_file(file, error) && !IsHiddenFile(file);
+    return fs::is_regular_file(StatusOf(file)) && !IsHiddenFile(file);
 }
 
 // Mixes all bits of the state into all bits of the result (the finalizer of MurmurHash3).
@@ -114,13 +113,10 @@ bool FileExists(const fs::path& path) {
     const std::u8string pattern = path.filename().u8string();
     if (pattern.find_first_of(u8"*?") == pattern.npos)
         return IsNormalFile(path);
-    std::error_code error;
-    for (fs::directory_iterator entry(path.parent_path(), error), end; !error && entry != end;
-         entry.increment(error))
-        if (MatchesWildcards(pattern, entry->path().filename().u8string()) &&
-            IsNormalFile(entry->path()))
-            return true;
-    return false;
+    const std::vector<fs::path> entries = EntriesOf(path.parent_path());
+    return std::any_of(entries.begin(), entries.end(), [&pattern](const fs::path& entry) {
+        return MatchesWildcards(pattern, entry.filename().u8string()) && IsNormalFile(entry);
+    });
 }
 
 std::int32_t Dice::RollDice(std::int32_t n) {

@@ -4,8 +4,6 @@
 #include <cerrno>
 
 #ifdef _WIN32
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -18,6 +16,7 @@ namespace emporium {
 
 namespace {
 
+namespace fs = std::filesystem;
 using Path = FileLayer::Path;
 using Handle = FileLayer::Handle;
 
@@ -27,8 +26,18 @@ using Handle = FileLayer::Handle;
 constexpr int Attempts = 10;
 constexpr DWORD PauseMilliseconds = 30;
 
+// The standard library counts these two among the denials, of which a user would look for the cause
+// elsewhere.
+std::error_code ToError(DWORD error) {
+    if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION)
+        return std::make_error_code(std::errc::device_or_resource_busy);
+    if (error == ERROR_WRITE_PROTECT)
+        return std::make_error_code(std::errc::read_only_file_system);
+    return {static_cast<int>(error), std::system_category()};
+}
+
 std::error_code LastError() {
-    return {static_cast<int>(GetLastError()), std::system_category()};
+    return ToError(GetLastError());
 }
 
 template <typename Call> std::error_code WithRetries(Call call) {
@@ -39,9 +48,28 @@ template <typename Call> std::error_code WithRetries(Call call) {
         const bool passing = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED ||
                              error == ERROR_LOCK_VIOLATION;
         if (!passing || attempt == Attempts)
-            return {static_cast<int>(error), std::system_category()};
+            return ToError(error);
         Sleep(PauseMilliseconds);
     }
+}
+
+// A path of more than 260 characters is taken in this form only, in which "/" and ".." mean
+// nothing.
+std::wstring SystemPath(const Path& path) {
+    constexpr std::size_t limit = MAX_PATH - 12; // a folder's path leaves room for a short name
+    const std::wstring plain = path.lexically_normal().make_preferred().native();
+    if (plain.size() < limit)
+        return plain;
+    return plain.starts_with(L"\\\\") ? L"\\\\?\\UNC" + plain.substr(1) : L"\\\\?\\" + plain;
+}
+
+DWORD AttributesOf(const Path& path) {
+    return GetFileAttributesW(SystemPath(path).c_str());
+}
+
+bool IsFolder(const Path& path) {
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 HANDLE ToHandle(Handle handle) {
@@ -61,10 +89,13 @@ FileText ReadOpened(HANDLE handle) {
 }
 
 FileText Read(const Path& file) {
+    if (IsFolder(file))
+        return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::is_a_directory)};
     HANDLE handle = INVALID_HANDLE_VALUE;
     const std::error_code error = WithRetries([&] {
-        handle = CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
-                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        handle =
+            CreateFileW(SystemPath(file).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (error == std::errc::no_such_file_or_directory)
@@ -77,7 +108,7 @@ FileText Read(const Path& file) {
 }
 
 std::error_code CreateNew(const Path& file, Handle& handle) {
-    HANDLE created = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+    HANDLE created = CreateFileW(SystemPath(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                  FILE_ATTRIBUTE_NORMAL, nullptr);
     if (created == INVALID_HANDLE_VALUE)
         return LastError();
@@ -103,15 +134,23 @@ std::error_code Close(Handle handle) {
 }
 
 // A new file has the rights of its folder, which is what its predecessor had.
-std::error_code CopyMode(const Path&, const Path&) {
-    return {};
+std::error_code CopyMode(const Path& from, const Path& to) {
+    constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    const DWORD attributes = FILE_ATTRIBUTE_ARCHIVE | (AttributesOf(from) & kept);
+    return SetFileAttributesW(SystemPath(to).c_str(), attributes) ? std::error_code() : LastError();
 }
 
 std::error_code Rename(const Path& from, const Path& to) {
     return WithRetries([&] {
-        return MoveFileExW(from.c_str(), to.c_str(),
+        return MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     });
+}
+
+std::error_code Remove(const Path& file) {
+    const std::error_code error =
+        WithRetries([&] { return DeleteFileW(SystemPath(file).c_str()) != 0; });
+    return error == std::errc::no_such_file_or_directory ? std::error_code() : error;
 }
 
 // MOVEFILE_WRITE_THROUGH has flushed already.
@@ -121,8 +160,7 @@ std::error_code FlushFolder(const Path&) {
 
 // A name that stands for the folder, however its path is written.
 FolderClaim Claim(const Path& folder) {
-    std::error_code error;
-    std::wstring name = std::filesystem::canonical(folder, error).wstring();
+    std::wstring name = SystemPath(folder);
     CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
     const auto sum = std::to_wstring(std::hash<std::wstring>()(name));
     HANDLE mutex = CreateMutexW(nullptr, FALSE, (L"Orvan-Emporium-3-" + sum).c_str());
@@ -209,6 +247,12 @@ std::error_code Rename(const Path& from, const Path& to) {
     return std::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : LastError();
 }
 
+std::error_code Remove(const Path& file) {
+    std::error_code error;
+    fs::remove(file, error);
+    return error;
+}
+
 std::error_code FlushFolder(const Path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
@@ -233,12 +277,6 @@ FolderClaim Claim(const Path& folder) {
 
 #endif
 
-std::error_code Remove(const Path& file) {
-    std::error_code error;
-    std::filesystem::remove(file, error);
-    return error;
-}
-
 } // namespace
 
 FileLayer SystemFiles() {
@@ -249,26 +287,72 @@ FolderClaim ClaimFolder(const std::filesystem::path& folder) {
     return Claim(folder);
 }
 
-bool IsHiddenFile(const std::filesystem::path& file) {
 #ifdef _WIN32
-    const DWORD attributes = GetFileAttributesW(file.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-#else
-    const std::string name = file.filename().native();
-    return !name.empty() && name.front() == '.';
-#endif
+
+fs::file_status StatusOf(const Path& path) {
+    const DWORD attributes = AttributesOf(path);
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return fs::file_status(fs::file_type::not_found);
+    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
+                           fixed ? fs::perms::owner_read
+                                 : fs::perms::owner_read | fs::perms::owner_write);
 }
 
-std::filesystem::path RunningProgramFolder() {
-#ifdef _WIN32
+std::vector<Path> EntriesOf(const Path& folder) {
+    std::vector<Path> entries;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return entries;
+    do {
+        const std::wstring_view name = found.cFileName;
+        if (name != L"." && name != L"..")
+            entries.push_back(folder / name);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return entries;
+}
+
+bool IsHiddenFile(const Path& file) {
+    const DWORD attributes = AttributesOf(file);
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+Path RunningProgramFolder() {
     std::wstring name(32768, L'\0');
     name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
     return Path(name).parent_path();
-#else
-    std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-#endif
 }
+
+#else
+
+fs::file_status StatusOf(const Path& path) {
+    std::error_code error;
+    return fs::status(path, error);
+}
+
+std::vector<Path> EntriesOf(const Path& folder) {
+    std::vector<Path> entries;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        entries.push_back(entry->path());
+    return entries;
+}
+
+bool IsHiddenFile(const Path& file) {
+    const std::string name = file.filename().native();
+    return !name.empty() && name.front() == '.';
+}
+
+Path RunningProgramFolder() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error).parent_path();
+}
+
+#endif
 
 } // namespace emporium

@@ -24,6 +24,19 @@ bool AskDespiteOtherCopy(const Platform& platform) {
          BoxIcon::Warning, std::string(ProgramTitle)});
 }
 
+// Told at the start, before a save fails. Empty if nothing stands in the way of writing.
+std::string NoWritingText(const Platform& platform, const Folders& folders) {
+    for (const auto& folder : {folders.EmporiumFolder(), folders.TempFolder})
+        if (const auto failure = TryWriting(platform.files, folder))
+            return FailureText(
+                "Das Programm kann in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und "
+                "Läden zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
+                "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
+                "Dokumente, und startet das Programm von dort."_ansi,
+                *failure);
+    return {};
+}
+
 // While an interrupted write can't be finished, nothing is written on top of it.
 void BringUpToDate(const Platform& platform, const Folders& folders,
                    std::vector<std::string>& faults) {
@@ -46,15 +59,18 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform,
     window.regions = RegionInit();
     const Folders& folders = window.folders;
     window.claim = ClaimFolder(folders.EmporiumFolder());
-    // What another copy is just writing looks like something to be finished.
-    if (!window.claim.takenElsewhere)
-        BringUpToDate(platform, folders, faults);
-    else if (!AskDespiteOtherCopy(platform))
+    if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
+    std::string notice = NoWritingText(platform, folders);
+    // What another copy is just writing looks like something to be finished.
+    if (notice.empty() && !window.claim.takenElsewhere)
+        BringUpToDate(platform, folders, faults);
     ReadCategoryList(window.items, platform.files, folders, faults);
     window.caption = Caption();
     if (!faults.empty())
-        platform.ShowMessage(FaultsText(faults));
+        notice += (notice.empty() ? "" : "\n\n") + FaultsText(faults);
+    if (!notice.empty())
+        platform.ShowMessage(notice);
     return true;
 }
 

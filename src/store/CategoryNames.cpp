@@ -21,15 +21,13 @@ bool IsOwnFile(std::string_view name) {
 // A file whose name differs at most in case; on Windows that is the same file.
 bool FileStands(const Folders& folders, std::string_view name) {
     const std::filesystem::path file = CategoryPath(folders, name);
-    std::error_code error;
-    if (std::filesystem::exists(file, error))
+    if (std::filesystem::exists(StatusOf(file)))
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
-    for (std::filesystem::directory_iterator entry(folders.EmporiumFolder(), error), end;
-         !error && entry != end; entry.increment(error))
-        if (FoldCase(FromPath(entry->path().filename())) == wanted)
-            return true;
-    return false;
+    const auto entries = EntriesOf(folders.EmporiumFolder());
+    return std::any_of(entries.begin(), entries.end(), [&wanted](const auto& entry) {
+        return FoldCase(FromPath(entry.filename())) == wanted;
+    });
 }
 
 } // namespace

@@ -110,6 +110,12 @@ bool PrintPage(QWidget& window, HtmlView& page) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setDocName(page.Title());
+    // The dialog of Windows knows printers only, and would not open without one.
+    if (QApplication::platformName() == "windows" &&
+        printer.outputFormat() != QPrinter::NativeFormat) {
+        ShowMessage(window, "Auf diesem Rechner ist kein Drucker eingerichtet.");
+        return true;
+    }
     QPrintDialog dialog(&printer, &window);
     dialog.setObjectName("PrintDialog");
     if (dialog.exec() != QDialog::Accepted)

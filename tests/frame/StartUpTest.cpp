@@ -1,5 +1,6 @@
 #include "base/Ansi.h"
 #include "frame/frmEmporiumMain.h"
+#include "itemeditor/CategoryChoice.h"
 #include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
@@ -108,6 +109,25 @@ TEST(Start, ASecondCopyIsToldAndLeavesTheFirstOnesWorkAlone) {
     frmEmporiumMain next;
     EXPECT_TRUE(StartUp(next, here.script.platform, here.program.root));
     EXPECT_EQ(questions.size(), 2U);
+}
+
+TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing) {
+    Installation here;
+    const Folders& folders = here.program.folders;
+    auto& files = here.script.platform.files;
+    for (const auto& locked : {folders.EmporiumFolder(), folders.TempFolder}) {
+        files.createNew = [&locked](const auto& file, FileLayer::Handle& handle) {
+            return file.parent_path() == locked
+                       ? std::make_error_code(std::errc::read_only_file_system)
+                       : SystemFiles().createNew(file, handle);
+        };
+        here.script.ExpectMessage("Das Programm kann in seinen Ordner nicht schreiben.");
+        frmEmporiumMain window;
+        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+        ChooseCategory(window.items, here.script.platform, folders, 1);
+        EXPECT_EQ(window.items.ItemCount(), 1) << "it can still be read";
+        EXPECT_EQ(here.program.Read(OlderFile), Older);
+    }
 }
 
 } // namespace

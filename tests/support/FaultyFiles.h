@@ -36,10 +36,7 @@ public:
         Guard(files.remove);
         Guard(files.flushFolder);
     }
-    ~FaultyFiles() {
-        for (const FileLayer::Handle handle : open_)
-            SystemFiles().close(handle);
-    }
+    ~FaultyFiles() { CloseAll(); }
     FaultyFiles(const FaultyFiles&) = delete;
     FaultyFiles& operator=(const FaultyFiles&) = delete;
 
@@ -53,9 +50,18 @@ private:
         return fault_ == Fault::Lasting ? count_ >= n_ : count_ == n_;
     }
 
-    std::error_code Fail() const {
-        if (fault_ == Fault::Killed)
+    // What the system does for a program that has ended.
+    void CloseAll() {
+        for (const FileLayer::Handle handle : open_)
+            SystemFiles().close(handle);
+        open_.clear();
+    }
+
+    std::error_code Fail() {
+        if (fault_ == Fault::Killed) {
+            CloseAll();
             throw KilledHere();
+        }
         return std::make_error_code(std::errc::no_space_on_device);
     }
 

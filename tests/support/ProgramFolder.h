@@ -20,6 +20,7 @@ class ProgramFolder {
 public:
     /// Data with its sub-folders, GFX, HTML, Temp and Hilfe, all empty.
     ProgramFolder() {
+        std::filesystem::remove_all(root); // left by a test that crashed under the same number
         for (const char* part : {"Emporium", "Arsenal", "Atlas", "Borough"})
             std::filesystem::create_directories(folders.DataFolder / part);
         for (const auto& folder :

@@ -5,6 +5,7 @@
 //   walk PROGRAM_FOLDER OUTPUT_FOLDER
 
 #include "ui/Application.h"
+#include "ui/HtmlView.h"
 #include "ui/MainWindow.h"
 #include "ui/Text.h"
 #include "window/WindowDriver.h"
@@ -118,7 +119,25 @@ private:
         driver_.Click("cmdShopExport");
     }
 
+    // Where the dialog is the system's own, which only its user can answer, the page is printed
+    // past it; without a printer it does not open at all.
+    void PrintPastDialog(const char* button, const QString& file, const QString& picture) {
+        driver_.Expect([this, picture](QWidget& box) {
+            Picture(box, picture);
+            WindowDriver::Press(box, "OK");
+        });
+        driver_.Click(button);
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(Output(file));
+        driver_.Find<emporium::ui::HtmlView>("Browser")->PrintTo(printer);
+    }
+
     void Print(const char* button, const QString& file, const QString& picture) {
+        if (QApplication::platformName() == "windows") {
+            PrintPastDialog(button, file, picture);
+            return;
+        }
         driver_.Expect([this, file, picture](QWidget& widget) {
             auto& dialog = dynamic_cast<QPrintDialog&>(widget);
             Picture(dialog, picture);
@@ -147,13 +166,16 @@ private:
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 3) {
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3) {
         std::fprintf(stderr, "usage: walk PROGRAM_FOLDER OUTPUT_FOLDER\n");
         return 2;
     }
     emporium::ui::SetUpApplication(application);
-    emporium::ui::MainWindow window(emporium::ui::PathFrom(QFile::decodeName(argv[1])));
+    // The system's own file dialog can be answered by its user only.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    emporium::ui::MainWindow window(emporium::ui::PathFrom(arguments[1]));
     window.show();
-    QDir().mkpath(QFile::decodeName(argv[2]));
-    return Walk(window, QFile::decodeName(argv[2])).Run() ? 0 : 1;
+    QDir().mkpath(arguments[2]);
+    return Walk(window, arguments[2]).Run() ? 0 : 1;
 }

@@ -69,8 +69,11 @@ void WindowTest::Enter(const QString& prompt, const QString& text) {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
+    // The system's own file dialog can be answered by its user only.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     return RUN_ALL_TESTS();
 }
