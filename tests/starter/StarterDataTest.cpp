@@ -251,8 +251,16 @@ TEST_F(StarterData, EveryShopTypeSellsCategoriesThatExist) {
     EXPECT_EQ(sections, heads);
 }
 
-TEST_F(StarterData, TheHelpPageFindsWhatItPointsTo) {
+TEST_F(StarterData, TheHelpPageFindsWhatItPointsToAndCountsWhatShips) {
     const std::string page = Text(folders.HilfeFolder / "Emporium.htm");
+    std::vector<std::string> faults;
+    std::size_t items = 0;
+    for (const std::string& category : categories)
+        items += ReadCategoryFile(files, folders, category).records.size();
+    for (const std::string& count :
+         {std::to_string(categories.size()) + " Kategorien mit", std::to_string(items) + " Gegenst",
+          std::to_string(ReadShopTypes(files, folders, faults).size()) + " Arten"})
+        EXPECT_NE(page.find(count), page.npos) << count;
     const std::regex link("(src|href)=\"([^\"]*)\"");
     std::set<std::string> shown;
     for (auto it = std::sregex_iterator(page.begin(), page.end(), link); it != decltype(it)();
