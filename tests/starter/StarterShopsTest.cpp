@@ -36,7 +36,8 @@ protected:
         for (std::int16_t n = 1; n <= ReadWareCount(config, type); ++n) {
             const auto category =
                 ReadCategoryFile(platform.files, folders, ReadWareCategory(config, type, n));
-            wares.insert(wares.end(), category.records.begin(), category.records.end());
+            std::transform(category.records.begin(), category.records.end(),
+                           std::back_inserter(wares), CopyOf);
         }
         return wares;
     }
@@ -62,9 +63,7 @@ TEST_F(StarterShops, AtMostOneInAHundredIsEmptyAndAllCanBePrinted) {
                 const auto region = RegionCodes[static_cast<std::size_t>(run % (Regions + 1))];
                 const ShopWishes wishes{quality, !region.empty(), region};
                 filled += std::any_of(wares.begin(), wares.end(), [&](const ItemRecord& ware) {
-                    RecordView view;
-                    std::copy(ware.begin(), ware.end(), view.begin());
-                    return DrawRecord(view, wishes, regions, platform.RollDice);
+                    return DrawRecord(ViewOf(ware), wishes, regions, platform.RollDice);
                 });
             }
             EXPECT_GE(filled, 99) << type << ", quality " << quality;
