@@ -1,16 +1,19 @@
-// Starts the window, or an empty one of the same size, paints its first frame and ends: two
-// processes whose times can be compared.
+// Starts the window, or an empty one of the same size, paints its first frame, tells how much
+// memory that took and ends: processes whose times and sizes can be compared.
 //
 //   start_bench empty
-//   start_bench PROGRAM_FOLDER
+//   start_bench PROGRAM_FOLDER [CATEGORY]
 
 #include "ui/Application.h"
 #include "ui/MainWindow.h"
 #include "ui/Text.h"
 
+#include <QComboBox>
 #include <QFile>
 
 #include <cstring>
+#include <fstream>
+#include <iostream>
 #include <memory>
 
 namespace {
@@ -25,16 +28,32 @@ std::unique_ptr<QWidget> MakeWindow(const char* what) {
     return window;
 }
 
+void Choose(const QWidget& window, const char* category) {
+    auto* list = window.findChild<QComboBox*>("cmbKategorien");
+    emit list->activated(list->findText(category));
+}
+
+// The lines on the process's memory, the largest it was and what it is, in kB.
+void PrintMemory() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmHWM:") || line.starts_with("VmRSS:"))
+            std::cout << line << '\n';
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 2)
+    if (argc < 2)
         return 2;
     emporium::ui::SetUpApplication(application);
     const auto window = MakeWindow(argv[1]);
     window->show();
+    if (argc > 2)
+        Choose(*window, argv[2]);
     window->repaint();
     QApplication::processEvents();
+    PrintMemory();
     return 0;
 }

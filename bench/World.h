@@ -6,6 +6,7 @@
 #include "regions/Availability.h"
 #include "store/CategoryFiles.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,6 +17,12 @@ namespace emporium::bench {
 
 inline std::string CategoryName(int number) {
     return "Kategorie" + std::to_string(number);
+}
+
+/// Reading a file and counting its line ends, which no reader of lines can do without.
+inline std::ptrdiff_t CountLines(const FileLayer& files, const std::filesystem::path& file) {
+    const FileText text = files.read(file);
+    return std::count(text.bytes.begin(), text.bytes.end(), '\n');
 }
 
 class World {
@@ -52,6 +59,15 @@ public:
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
+    /// Writes a file below the data folder and gives its path.
+    std::filesystem::path WriteData(const std::filesystem::path& name,
+                                    const std::string& bytes) const {
+        const auto file = folders.DataFolder / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << bytes;
+        return file;
+    }
+
     static ItemRecord Record(int number) {
         static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",
                                                          "NO|"};
@@ -67,7 +83,7 @@ public:
 
 private:
     void Write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(folders.EmporiumFolder() / name, std::ios::binary) << bytes;
+        WriteData(std::filesystem::path("Emporium") / name, bytes);
     }
 };
 
