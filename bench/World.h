@@ -68,13 +68,15 @@ public:
         return file;
     }
 
+    /// As long as the starter files' records are on average.
     static ItemRecord Record(int number) {
         static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",
                                                          "NO|"};
         const std::size_t mixed = static_cast<std::size_t>(number) * 2654435761U % 100003U;
         return {"Gegenstand " + std::to_string(mixed) + std::to_string(1 + number % 5),
                 std::to_string(number % 300), std::to_string(1 + mixed % 900) + "DSHP"[number % 4],
-                "Ein Ding, das ein Händler auf den Tisch legt.", regions[mixed % 4]};
+                "Ein Ding, das ein Händler auf den Tisch legt, wenn ihn jemand danach fragt.",
+                regions[mixed % 4]};
     }
 
     std::filesystem::path root;
