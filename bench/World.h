@@ -34,16 +34,18 @@ public:
         folders = InitFolders(root);
         std::filesystem::create_directories(folders.EmporiumFolder());
         std::filesystem::create_directories(folders.TempFolder);
-        std::vector<std::string> names, texts(static_cast<std::size_t>(categories));
+        std::vector<std::vector<ItemRecord>> records(static_cast<std::size_t>(categories));
         for (int i = 0; i < items; ++i)
-            AppendRecord(texts[static_cast<std::size_t>(i % categories)], Record(i));
+            records[static_cast<std::size_t>(i % categories)].push_back(Record(i));
+        std::string list = " " + std::to_string(categories) + " \r\n";
         std::string config = "[Alles]\r\nWareCount=" + std::to_string(categories) + "\r\n";
         for (int c = 0; c < categories; ++c) {
-            names.push_back(CategoryName(c));
-            Write(names.back() + ".dat", texts[static_cast<std::size_t>(c)]);
-            config += "Ware" + std::to_string(c + 1) + "=" + names.back() + "\r\n";
+            const std::string name = CategoryName(c);
+            Write(name + ".dat", WithRecords("", records[static_cast<std::size_t>(c)]));
+            list += name + "\r\n";
+            config += "Ware" + std::to_string(c + 1) + "=" + name + "\r\n";
         }
-        Write("ItemKategorien.dat", CategoryListText(names));
+        Write("ItemKategorien.dat", list);
         Write("ShopgeneratorShops.dat", "Alles\r\n");
         Write("ShopgeneratorConfig.dat", config);
         platform.files = SystemFiles();
