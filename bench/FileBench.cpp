@@ -131,13 +131,13 @@ std::string Source(std::int64_t records) {
     return text;
 }
 
-// As many source records as the category has items, all of them new.
+// As many source records as the category has items, all of them new: the whole is of the size.
 class ImportWorld {
 public:
     explicit ImportWorld(std::int64_t records)
-        : world(static_cast<int>(records), 1),
+        : world(static_cast<int>(records / 2), 1),
           category(CategoryPath(world.folders, FixedCategories()[2])),
-          source(world.WriteData("Arsenal" / category.filename(), Source(records))),
+          source(world.WriteData("Arsenal" / category.filename(), Source(records / 2))),
           filled_(world.platform.files.read(CategoryPath(world.folders, CategoryName(0)))) {}
 
     void Prepare() const { std::ofstream(category, std::ios::binary) << filled_.bytes; }

@@ -1,5 +1,5 @@
 // Starts the window, or an empty one of the same size, paints its first frame, tells how much
-// memory that took and ends: processes whose times and sizes can be compared.
+// memory it took at most and ends: processes whose times and sizes can be compared.
 //
 //   start_bench empty
 //   start_bench PROGRAM_FOLDER [CATEGORY]
@@ -15,6 +15,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -33,12 +34,13 @@ void Choose(const QWidget& window, const char* category) {
     emit list->activated(list->findText(category));
 }
 
-// The lines on the process's memory, the largest it was and what it is, in kB.
-void PrintMemory() {
+// The most that the process took, in kB.
+std::string PeakMemory() {
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmHWM:") || line.starts_with("VmRSS:"))
-            std::cout << line << '\n';
+        if (line.starts_with("VmHWM:"))
+            return line.substr(line.find_first_of("123456789"));
+    return {};
 }
 
 } // namespace
@@ -54,6 +56,6 @@ int main(int argc, char** argv) {
         Choose(*window, argv[2]);
     window->repaint();
     QApplication::processEvents();
-    PrintMemory();
+    std::cout << PeakMemory() << '\n';
     return 0;
 }

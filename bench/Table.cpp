@@ -21,15 +21,6 @@ struct Operation {
     std::map<std::int64_t, Times::value_type> times; // by the size's place in the order
 };
 
-// Three digits, with a point on every desktop.
-std::string Digits(double value) {
-    const int decimals = value < 1 ? 3 : value < 10 ? 2 : value < 100 ? 1 : 0;
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << std::fixed << std::setprecision(decimals) << value;
-    return text.str();
-}
-
 std::string Joined(const std::vector<std::string>& parts) {
     std::string text;
     for (const std::string& part : parts)
@@ -99,6 +90,14 @@ private:
 
 void Sizes(benchmark::internal::Benchmark* benchmark) {
     benchmark->Arg(500)->Arg(5000)->Arg(32767);
+}
+
+std::string Digits(double value) {
+    const int decimals = value < 1 ? 3 : value < 10 ? 2 : value < 100 ? 1 : 0;
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(decimals) << value;
+    return text.str();
 }
 
 void Beside(benchmark::State& state, const char* bound) {

@@ -18,7 +18,9 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <array>
 #include <chrono>
+#include <cstdio>
 #include <iostream>
 
 namespace emporium::bench {
@@ -172,16 +174,15 @@ void Measure(benchmark::State& state, const Handler& handler, int categories) {
 }
 
 // A window in a process of its own, from its start to its end, which follows its first frame: that
-// of the program folder, or an empty one. Gives what the process told.
-std::string RunWindow(const std::filesystem::path& folder, const std::string& category = "") {
-    std::string output;
+// of the program folder, or an empty one. Gives the memory in MB that it took at most.
+double RunWindow(const std::filesystem::path& folder, const std::string& category = "") {
     const std::string command = "exec " START_BENCH " '" + folder.string() + "' " + category;
     FILE* child = popen(command.c_str(), "r");
-    for (int c = std::fgetc(child); c != EOF; c = std::fgetc(child))
-        output += static_cast<char>(c);
-    if (pclose(child) != 0)
+    std::array<char, 64> kilobytes{};
+    const bool told = std::fgets(kilobytes.data(), kilobytes.size(), child);
+    if (pclose(child) != 0 || !told)
         std::abort();
-    return output;
+    return std::stoi(kilobytes.data()) / 1024.0;
 }
 
 void Start(benchmark::State& state, const std::filesystem::path& folder) {
@@ -251,12 +252,19 @@ void Declare() {
             ->UseRealTime();
 }
 
-// What the window takes of memory, in kB, as "largest / at the end".
 void PrintMemory() {
     const StarterWorld starter;
+    const World one(1, 1);
     const World full(32767, 50);
-    std::cout << RunWindow("empty") << RunWindow(starter.root) << RunWindow(full.root)
-              << RunWindow(full.root, "Alles");
+    const double empty = RunWindow("empty");
+    const double program = RunWindow(starter.root);
+    const double items = RunWindow(full.root, "Alles") - RunWindow(one.root, "Alles");
+    std::cout << "\n| Memory | MB | Beside | Ratio |\n|---|---|---|---|\n"
+              << "| An empty window | " << Digits(empty) << " | | |\n"
+              << "| The window over the starter files | " << Digits(program)
+              << " | an empty window | " << Digits(program / empty) << " |\n"
+              << "| 32767 items in view, beyond a single one | " << Digits(items)
+              << " | their bytes on disk | " << Digits(items / full.Megabytes()) << " |\n";
 }
 
 } // namespace

@@ -57,6 +57,7 @@ FileText ReadOpened(HANDLE handle) {
             return {FileText::State::Unreadable, {}, LastError()};
         text.bytes.append(buffer, got);
     } while (got > 0);
+    text.bytes.shrink_to_fit(); // it may be kept for long
     return text;
 }
 
@@ -140,21 +141,24 @@ std::error_code LastError() {
     return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
+// The text may be kept for long: it takes no more memory than the file has bytes.
 FileText ReadOpened(int descriptor) {
-    FileText text{FileText::State::Whole, {}, {}};
+    constexpr std::size_t chunk = 65536; // for what has no size, or has grown meanwhile
     struct stat status {};
-    if (::fstat(descriptor, &status) == 0 && status.st_size > 0)
-        text.bytes.reserve(static_cast<std::size_t>(status.st_size) + 1);
-    constexpr std::size_t chunk = 65536;
-    for (;;) {
-        const std::size_t size = text.bytes.size();
-        text.bytes.resize(size + chunk);
-        const ssize_t got = ::read(descriptor, text.bytes.data() + size, chunk);
-        text.bytes.resize(size + static_cast<std::size_t>(got > 0 ? got : 0));
-        if (got == 0)
-            return text;
+    ::fstat(descriptor, &status);
+    FileText text{FileText::State::Whole, {}, {}};
+    text.bytes.resize(static_cast<std::size_t>(status.st_size) + 1); // one more shows the end
+    for (std::size_t size = 0;;) {
+        const ssize_t got = ::read(descriptor, text.bytes.data() + size, text.bytes.size() - size);
         if (got < 0 && errno != EINTR)
             return {FileText::State::Unreadable, {}, LastError()};
+        if (got == 0) {
+            text.bytes.resize(size);
+            return text;
+        }
+        size += got > 0 ? static_cast<std::size_t>(got) : 0;
+        if (size == text.bytes.size())
+            text.bytes.resize(size + chunk);
     }
 }
 
