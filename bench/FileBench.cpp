@@ -1,14 +1,14 @@
-// Reading, saving and importing, each beside the bound that it is measured against.
+// Reading, saving and importing. Where something is written, the wall clock counts: the disk takes
+// most of the time.
+#include "Table.h"
 #include "World.h"
 
-#include "base/LineReader.h"
+#include "base/FileWriting.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "store/ArsenalImport.h"
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 
@@ -17,11 +17,29 @@ namespace {
 
 constexpr int Categories = 50;
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->Arg(500)->Arg(5000)->Arg(32767)->Unit(benchmark::kMillisecond);
+void ReadCategory(benchmark::State& state) {
+    Beside(state, "BoundReadCategory");
+    const World world(static_cast<int>(state.range(0)), 1);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            ReadCategoryFile(world.platform.files, world.folders, CategoryName(0)));
 }
 
-void LoadAll(benchmark::State& state) {
+void CountLinesOfAll(benchmark::State& state, int categories) {
+    const World world(static_cast<int>(state.range(0)), categories);
+    for (auto _ : state)
+        for (int c = 0; c < categories; ++c)
+            benchmark::DoNotOptimize(
+                CountLines(world.platform.files, CategoryPath(world.folders, CategoryName(c))));
+}
+
+void BoundReadCategory(benchmark::State& state) {
+    CountLinesOfAll(state, 1);
+}
+
+// The list is sorted, too.
+void LoadAlles(benchmark::State& state) {
+    Beside(state, "BoundReadAlles");
     World world(static_cast<int>(state.range(0)), Categories);
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
@@ -31,41 +49,51 @@ void LoadAll(benchmark::State& state) {
         state.SkipWithError("not all items were loaded");
 }
 
-// Reading the files of the view and splitting them into the texts of their lines.
-void BoundReadAndSplit(benchmark::State& state) {
-    World world(static_cast<int>(state.range(0)), Categories);
+void BoundReadAlles(benchmark::State& state) {
+    CountLinesOfAll(state, Categories);
+}
+
+// Writes and flushes the bytes where nothing was before.
+void WriteAndFlush(const FileLayer& files, const std::filesystem::path& file,
+                   const std::string& bytes) {
+    files.remove(file);
+    FileLayer::Handle handle = 0;
+    std::size_t written = 0;
+    const bool failed = files.createNew(file, handle) || files.write(handle, bytes, written) ||
+                        files.flush(handle) || files.close(handle);
+    if (failed || written != bytes.size())
+        std::abort();
+}
+
+void WriteCategory(benchmark::State& state) {
+    Beside(state, "BoundWriteCategory");
+    const World world(static_cast<int>(state.range(0)), 1);
+    const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
     for (auto _ : state) {
-        std::vector<ItemRecord> records;
-        for (int c = 0; c < Categories; ++c) {
-            const FileText text =
-                world.platform.files.read(CategoryPath(world.folders, CategoryName(c)));
-            LineReader lines(text.bytes);
-            while (!lines.AtEnd()) {
-                ItemRecord& record = records.emplace_back();
-                std::string_view line;
-                for (std::string& field : record) {
-                    lines.Next(line);
-                    field = line;
-                }
-            }
-        }
-        benchmark::DoNotOptimize(records);
+        const std::string text = WithRecordAt(*file.bytes, file.records[7], World::Record(7));
+        if (WriteFile(world.platform.files, CategoryPath(world.folders, CategoryName(0)), text))
+            state.SkipWithError("the file was not written");
     }
 }
 
-void BoundRead(benchmark::State& state) {
-    World world(static_cast<int>(state.range(0)), Categories);
+void BoundWrite(benchmark::State& state, int categories) {
+    const World world(static_cast<int>(state.range(0)), categories);
+    const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
     for (auto _ : state)
-        for (int c = 0; c < Categories; ++c)
-            benchmark::DoNotOptimize(
-                world.platform.files.read(CategoryPath(world.folders, CategoryName(c))));
+        WriteAndFlush(world.platform.files, world.folders.TempFolder / "bytes.dat", *file.bytes);
 }
 
-void SaveInAll(benchmark::State& state) {
-    World world(static_cast<int>(state.range(0)), Categories);
+void BoundWriteCategory(benchmark::State& state) {
+    BoundWrite(state, 1);
+}
+
+// A changed item, in a view of one category or of all.
+void Save(benchmark::State& state, int categories, int view) {
+    World world(static_cast<int>(state.range(0)), categories);
     ItemEditor editor;
-    editor.cmbKategorien.Select(0);
-    LoadItems(editor, world.platform, world.folders);
+    std::vector<std::string> faults;
+    ReadCategoryList(editor, world.platform.files, world.folders, faults);
+    ChooseCategory(editor, world.platform, world.folders, view);
     int change = 0;
     for (auto _ : state) {
         ChooseItemRow(editor, world.platform, world.folders, 7);
@@ -74,8 +102,22 @@ void SaveInAll(benchmark::State& state) {
     }
 }
 
+void SaveInCategory(benchmark::State& state) {
+    Beside(state, "BoundWriteCategory");
+    Save(state, 1, 1);
+}
+
+void SaveInAlles(benchmark::State& state) {
+    Beside(state, "BoundWriteOneOf50");
+    Save(state, Categories, 0);
+}
+
+void BoundWriteOneOf50(benchmark::State& state) {
+    BoundWrite(state, Categories);
+}
+
 // Source records by the form of the armour file: 19 lines behind a line that is passed over.
-std::string Source(int records) {
+std::string Source(std::int64_t records) {
     std::string text = "Rüstungen\r\n";
     for (int i = 0; i < records; ++i) {
         std::array<std::string, 20> lines;
@@ -89,30 +131,67 @@ std::string Source(int records) {
     return text;
 }
 
+// As many source records as the category has items, all of them new: the whole is of the size.
+class ImportWorld {
+public:
+    explicit ImportWorld(std::int64_t records)
+        : world(static_cast<int>(records / 2), 1),
+          category(CategoryPath(world.folders, FixedCategories()[2])),
+          source(world.WriteData("Arsenal" / category.filename(), Source(records / 2))),
+          filled_(world.platform.files.read(CategoryPath(world.folders, CategoryName(0)))) {}
+
+    void Prepare() const { std::ofstream(category, std::ios::binary) << filled_.bytes; }
+
+    World world;
+    std::filesystem::path category, source;
+
+private:
+    FileText filled_;
+};
+
 void Import(benchmark::State& state) {
-    World world(static_cast<int>(state.range(0)), 1);
-    const auto category = CategoryPath(world.folders, FixedCategories()[2]);
-    const auto filled = world.platform.files.read(CategoryPath(world.folders, CategoryName(0)));
-    const auto source = world.folders.DataFolder / "Arsenal";
-    std::filesystem::create_directories(source);
-    std::ofstream(source / category.filename(), std::ios::binary)
-        << Source(static_cast<int>(state.range(0)));
+    Beside(state, "BoundImport");
+    const ImportWorld import(state.range(0));
     std::vector<std::string> faults;
     for (auto _ : state) {
         state.PauseTiming();
-        std::ofstream(category, std::ios::binary) << filled.bytes;
+        import.Prepare();
         state.ResumeTiming();
-        ImportArsenal(world.platform.files, world.folders, faults);
+        ImportArsenal(import.world.platform.files, import.world.folders, faults);
     }
     if (!faults.empty())
         state.SkipWithError(faults.front().c_str());
 }
 
-BENCHMARK(LoadAll)->Apply(Sizes);
-BENCHMARK(BoundReadAndSplit)->Apply(Sizes);
-BENCHMARK(BoundRead)->Apply(Sizes);
-BENCHMARK(SaveInAll)->Apply(Sizes);
-BENCHMARK(Import)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+// Reads source and category, writes the category as it is afterwards.
+void BoundImport(benchmark::State& state) {
+    const ImportWorld import(state.range(0));
+    const FileLayer& files = import.world.platform.files;
+    std::vector<std::string> faults;
+    import.Prepare();
+    ImportArsenal(files, import.world.folders, faults);
+    const FileText imported = files.read(import.category);
+    for (auto _ : state) {
+        state.PauseTiming();
+        import.Prepare();
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(CountLines(files, import.source));
+        benchmark::DoNotOptimize(CountLines(files, import.category));
+        WriteAndFlush(files, import.world.folders.TempFolder / "bytes.dat", imported.bytes);
+    }
+}
+
+BENCHMARK(ReadCategory)->Apply(Sizes);
+BENCHMARK(BoundReadCategory)->Apply(Sizes);
+BENCHMARK(LoadAlles)->Apply(Sizes);
+BENCHMARK(BoundReadAlles)->Apply(Sizes);
+BENCHMARK(WriteCategory)->Apply(Sizes)->UseRealTime();
+BENCHMARK(SaveInCategory)->Apply(Sizes)->UseRealTime();
+BENCHMARK(BoundWriteCategory)->Apply(Sizes)->UseRealTime();
+BENCHMARK(SaveInAlles)->Apply(Sizes)->UseRealTime();
+BENCHMARK(BoundWriteOneOf50)->Apply(Sizes)->UseRealTime();
+BENCHMARK(Import)->Apply(Sizes)->UseRealTime();
+BENCHMARK(BoundImport)->Apply(Sizes)->UseRealTime();
 
 } // namespace
 } // namespace emporium::bench

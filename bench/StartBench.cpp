@@ -1,17 +1,21 @@
-// Starts the window, or an empty one of the same size, paints its first frame and ends: two
-// processes whose times can be compared.
+// Starts the window, or an empty one of the same size, paints its first frame, tells how much
+// memory it took at most and ends: processes whose times and sizes can be compared.
 //
 //   start_bench empty
-//   start_bench PROGRAM_FOLDER
+//   start_bench PROGRAM_FOLDER [CATEGORY]
 
 #include "ui/Application.h"
 #include "ui/MainWindow.h"
 #include "ui/Text.h"
 
+#include <QComboBox>
 #include <QFile>
 
 #include <cstring>
+#include <fstream>
+#include <iostream>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -25,16 +29,33 @@ std::unique_ptr<QWidget> MakeWindow(const char* what) {
     return window;
 }
 
+void Choose(const QWidget& window, const char* category) {
+    auto* list = window.findChild<QComboBox*>("cmbKategorien");
+    emit list->activated(list->findText(category));
+}
+
+// The most that the process took, in kB.
+std::string PeakMemory() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmHWM:"))
+            return line.substr(line.find_first_of("123456789"));
+    return {};
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 2)
+    if (argc < 2)
         return 2;
     emporium::ui::SetUpApplication(application);
     const auto window = MakeWindow(argv[1]);
     window->show();
+    if (argc > 2)
+        Choose(*window, argv[2]);
     window->repaint();
     QApplication::processEvents();
+    std::cout << PeakMemory() << '\n';
     return 0;
 }

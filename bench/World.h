@@ -6,6 +6,7 @@
 #include "regions/Availability.h"
 #include "store/CategoryFiles.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -18,6 +19,12 @@ inline std::string CategoryName(int number) {
     return "Kategorie" + std::to_string(number);
 }
 
+/// Reading a file and counting its line ends, which no reader of lines can do without.
+inline std::ptrdiff_t CountLines(const FileLayer& files, const std::filesystem::path& file) {
+    const FileText text = files.read(file);
+    return std::count(text.bytes.begin(), text.bytes.end(), '\n');
+}
+
 class World {
 public:
     /// `items` records, spread evenly over the categories.
@@ -27,16 +34,18 @@ public:
         folders = InitFolders(root);
         std::filesystem::create_directories(folders.EmporiumFolder());
         std::filesystem::create_directories(folders.TempFolder);
-        std::vector<std::string> names, texts(static_cast<std::size_t>(categories));
+        std::vector<std::vector<ItemRecord>> records(static_cast<std::size_t>(categories));
         for (int i = 0; i < items; ++i)
-            AppendRecord(texts[static_cast<std::size_t>(i % categories)], Record(i));
+            records[static_cast<std::size_t>(i % categories)].push_back(Record(i));
+        std::string list = " " + std::to_string(categories) + " \r\n";
         std::string config = "[Alles]\r\nWareCount=" + std::to_string(categories) + "\r\n";
         for (int c = 0; c < categories; ++c) {
-            names.push_back(CategoryName(c));
-            Write(names.back() + ".dat", texts[static_cast<std::size_t>(c)]);
-            config += "Ware" + std::to_string(c + 1) + "=" + names.back() + "\r\n";
+            const std::string name = CategoryName(c);
+            Write(name + ".dat", WithRecords("", records[static_cast<std::size_t>(c)]));
+            list += name + "\r\n";
+            config += "Ware" + std::to_string(c + 1) + "=" + name + "\r\n";
         }
-        Write("ItemKategorien.dat", CategoryListText(names));
+        Write("ItemKategorien.dat", list);
         Write("ShopgeneratorShops.dat", "Alles\r\n");
         Write("ShopgeneratorConfig.dat", config);
         platform.files = SystemFiles();
@@ -52,13 +61,32 @@ public:
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
+    /// Writes a file below the data folder and gives its path.
+    std::filesystem::path WriteData(const std::filesystem::path& name,
+                                    const std::string& bytes) const {
+        const auto file = folders.DataFolder / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << bytes;
+        return file;
+    }
+
+    /// What the categories take on the disk.
+    double Megabytes() const {
+        std::uintmax_t bytes = 0;
+        for (const auto& file : std::filesystem::directory_iterator(folders.EmporiumFolder()))
+            bytes += file.file_size();
+        return static_cast<double>(bytes) / (1024 * 1024);
+    }
+
+    /// As long as the starter files' records are on average.
     static ItemRecord Record(int number) {
         static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",
                                                          "NO|"};
         const std::size_t mixed = static_cast<std::size_t>(number) * 2654435761U % 100003U;
         return {"Gegenstand " + std::to_string(mixed) + std::to_string(1 + number % 5),
                 std::to_string(number % 300), std::to_string(1 + mixed % 900) + "DSHP"[number % 4],
-                "Ein Ding, das ein Händler auf den Tisch legt.", regions[mixed % 4]};
+                "Ein Ding, das ein Händler auf den Tisch legt, wenn ihn jemand danach fragt.",
+                regions[mixed % 4]};
     }
 
     std::filesystem::path root;
@@ -67,7 +95,7 @@ public:
 
 private:
     void Write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(folders.EmporiumFolder() / name, std::ios::binary) << bytes;
+        WriteData(std::filesystem::path("Emporium") / name, bytes);
     }
 };
 

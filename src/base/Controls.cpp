@@ -7,8 +7,7 @@
 namespace emporium {
 
 ChoiceList::ChoiceList(Order order, const std::vector<std::string_view>& entries) : order_(order) {
-    for (const std::string_view entry : entries)
-        Add(entry);
+    AddAll({entries.begin(), entries.end()});
 }
 
 std::string ChoiceList::Text() const {
@@ -22,6 +21,21 @@ void ChoiceList::Add(std::string_view entry) {
     if (place - entries_.begin() <= selection_)
         ++selection_;
     entries_.emplace(place, entry);
+}
+
+void ChoiceList::AddAll(const std::vector<std::string>& entries) {
+    entries_.insert(entries_.end(), entries.begin(), entries.end());
+    if (order_ == Order::AsAdded)
+        return;
+    const auto order = GermanOrderOf(
+        entries_.size(), false, [this](std::size_t i) { return std::string_view(entries_[i]); });
+    std::vector<std::string> sorted;
+    for (const int i : order)
+        sorted.push_back(std::move(entries_[static_cast<std::size_t>(i)]));
+    entries_ = std::move(sorted);
+    if (selection_ >= 0)
+        selection_ =
+            static_cast<int>(std::find(order.begin(), order.end(), selection_) - order.begin());
 }
 
 void ChoiceList::RemoveSelected() {

@@ -77,7 +77,7 @@ std::uint64_t Mix(std::uint64_t x) {
 IniFile::IniFile(std::string_view text) {
     LineReader lines(text);
     std::unordered_set<std::string> seen;
-    std::string section;
+    std::string section; // as a lookup name begins
     bool reachable = false;
     for (std::string_view line; lines.Next(line);) {
         line = Trim(line);
@@ -87,15 +87,15 @@ IniFile::IniFile(std::string_view text) {
             const auto end = line.find(']');
             if (end == line.npos)
                 continue;
-            section = Trim(line.substr(1, end - 1));
-            reachable = seen.insert(FoldCase(section)).second;
+            section = FoldCase(Trim(line.substr(1, end - 1))) + '\0';
+            reachable = seen.insert(section).second;
             continue;
         }
         const auto equals = line.find('=');
         if (!reachable || equals == line.npos)
             continue;
         const auto value = WithoutQuotes(Trim(line.substr(equals + 1))).substr(0, MaxValueLength);
-        values_.emplace(LookupName(section, Trim(line.substr(0, equals))), value);
+        values_.emplace(section + FoldCase(Trim(line.substr(0, equals))), value);
     }
 }
 

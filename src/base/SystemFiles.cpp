@@ -20,6 +20,13 @@ namespace fs = std::filesystem;
 using Path = FileLayer::Path;
 using Handle = FileLayer::Handle;
 
+// Far above every file of the program; what is larger would take the memory that others need.
+constexpr std::size_t LargestFile = std::size_t{1} << 30U;
+
+FileText TooLarge() {
+    return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::file_too_large)};
+}
+
 #ifdef _WIN32
 
 // Virus scanners and sync clients hold a file for moments: these failures pass.
@@ -84,7 +91,10 @@ FileText ReadOpened(HANDLE handle) {
         if (!ReadFile(handle, buffer, sizeof buffer, &got, nullptr))
             return {FileText::State::Unreadable, {}, LastError()};
         text.bytes.append(buffer, got);
+        if (text.bytes.size() > LargestFile)
+            return TooLarge();
     } while (got > 0);
+    text.bytes.shrink_to_fit(); // it may be kept for long
     return text;
 }
 
@@ -178,21 +188,28 @@ std::error_code LastError() {
     return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
+// The text may be kept for long: it takes no more memory than the file has bytes.
 FileText ReadOpened(int descriptor) {
-    FileText text{FileText::State::Whole, {}, {}};
+    constexpr std::size_t chunk = 65536; // for what has no size, or has grown meanwhile
     struct stat status {};
-    if (::fstat(descriptor, &status) == 0 && status.st_size > 0)
-        text.bytes.reserve(static_cast<std::size_t>(status.st_size) + 1);
-    constexpr std::size_t chunk = 65536;
-    for (;;) {
-        const std::size_t size = text.bytes.size();
-        text.bytes.resize(size + chunk);
-        const ssize_t got = ::read(descriptor, text.bytes.data() + size, chunk);
-        text.bytes.resize(size + static_cast<std::size_t>(got > 0 ? got : 0));
-        if (got == 0)
-            return text;
+    ::fstat(descriptor, &status);
+    if (static_cast<std::size_t>(status.st_size) > LargestFile)
+        return TooLarge();
+    FileText text{FileText::State::Whole, {}, {}};
+    text.bytes.resize(static_cast<std::size_t>(status.st_size) + 1); // one more shows the end
+    for (std::size_t size = 0;;) {
+        const ssize_t got = ::read(descriptor, text.bytes.data() + size, text.bytes.size() - size);
         if (got < 0 && errno != EINTR)
             return {FileText::State::Unreadable, {}, LastError()};
+        if (got == 0) {
+            text.bytes.resize(size);
+            return text;
+        }
+        size += got > 0 ? static_cast<std::size_t>(got) : 0;
+        if (size > LargestFile)
+            return TooLarge();
+        if (size == text.bytes.size())
+            text.bytes.resize(size + chunk);
     }
 }
 

@@ -41,12 +41,9 @@ void HTMLHeaderCell(std::string_view text, std::string& file) {
 }
 
 void HTMLCell(std::string_view text, std::string_view width, std::string& file) {
-    HTMLLine(std::string("<td width=\"")
-                 .append(width)
-                 .append("\"><small><font face=\"Arial\">")
-                 .append(text)
-                 .append("</font></small></td>"),
-             file);
+    file.append("<td width=\"").append(width).append("\"><small><font face=\"Arial\">");
+    file.append(text);
+    HTMLLine("</font></small></td>", file);
 }
 
 void HTMLAvailabilityCell(std::string_view availability, std::string& file) {

@@ -29,8 +29,7 @@ void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfor
         return;
     dialog = frmEmporiumGenerator();
     std::vector<std::string> faults;
-    for (const std::string& type : ReadShopTypes(platform.files, folders, faults))
-        dialog.cmbShopBeruf.Add(type);
+    dialog.cmbShopBeruf.AddAll(ReadShopTypes(platform.files, folders, faults));
     ClearShop(shop);
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));

@@ -6,6 +6,7 @@
 #include "store/CategoryNames.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 
 namespace emporium {
@@ -68,12 +69,11 @@ void ReadView(ItemEditor& editor, const Platform& platform, const Folders& folde
 void AddNewNames(ItemEditor& editor, std::vector<std::string> names) {
     const std::unordered_set<std::string> known(editor.CategoryNames.begin(),
                                                 editor.CategoryNames.end());
-    for (const std::string& name : names) {
-        if (known.count(name) > 0)
-            continue;
-        editor.cmbKategorien.Add(name);
-        editor.cmbItemKategorien.Add(name);
-    }
+    std::vector<std::string> added;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(added),
+                 [&known](const std::string& name) { return known.count(name) == 0; });
+    editor.cmbKategorien.AddAll(added);
+    editor.cmbItemKategorien.AddAll(added);
     editor.CategoryNames = std::move(names);
 }
 

@@ -6,9 +6,9 @@
 #include "regions/AtlasEngine.h"
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace emporium {
 
@@ -28,7 +28,7 @@ struct ShopRow {
 enum ShopColumn { ShopTextColumn, ShopWeightColumn, ShopPriceColumn, ShopColumnCount };
 
 struct ShopListView {
-    std::vector<std::unique_ptr<ShopRow>> rows; // in the order of the list
+    std::deque<std::unique_ptr<ShopRow>> rows; // in the order of the list
     ListSort sort;
     int current = -1; // -1 for none
     std::string toolTip;

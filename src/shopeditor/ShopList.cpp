@@ -9,7 +9,7 @@ namespace emporium {
 
 namespace {
 
-using Rows = std::vector<std::unique_ptr<ShopRow>>;
+using Rows = decltype(ShopListView::rows);
 
 ShopRow* CurrentRow(const ShopEditor& shop) {
     const auto& list = shop.lvLaden;
@@ -151,7 +151,6 @@ void ArrangeShopList(ShopEditor& shop) {
             return ShopCell(*list.rows[row], list.sort.column);
         });
     Rows arranged;
-    arranged.reserve(order.size());
     for (const int row : order)
         arranged.push_back(std::move(list.rows[static_cast<std::size_t>(row)]));
     list.rows = std::move(arranged);

@@ -97,8 +97,16 @@ void MainWindow::LoadPictures() {
     help_->SetPicture(LoadPicture(gfx / "helpklein.bmp"));
     itemEditor_->LoadPictures();
     shopEditor_->LoadPictures();
-    itemBackground_->SetImage(LoadPictureFor(gfx / "OrvanEmporium3ItemEditor.jpg", size()));
-    shopBackground_->SetImage(LoadPictureFor(gfx / "OrvanEmporium3ShopEditor.jpg", size()));
+}
+
+// A mode's picture is read when the mode is shown first: the start need not wait for the other one.
+const QImage& MainWindow::BackgroundOf(Mode mode) const {
+    const bool items = mode == Mode::ItemEditor;
+    auto* picture = items ? itemBackground_ : shopBackground_;
+    const char* file = items ? "OrvanEmporium3ItemEditor.jpg" : "OrvanEmporium3ShopEditor.jpg";
+    if (picture->Image().isNull())
+        picture->SetImage(LoadPictureFor(session_.state.folders.GfxFolder / file, size()));
+    return picture->Image();
 }
 
 void MainWindow::MirrorWindow() {
@@ -110,7 +118,7 @@ void MainWindow::MirrorWindow() {
 
 void MainWindow::paintEvent(QPaintEvent*) {
     const Mode mode = session_.state.mode;
-    const QImage& image = (mode == Mode::ItemEditor ? itemBackground_ : shopBackground_)->Image();
+    const QImage& image = BackgroundOf(mode);
     QPainter painter(this);
     if (image.isNull()) {
         painter.fillRect(rect(), QColor(60, 45, 32));

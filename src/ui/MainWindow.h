@@ -33,6 +33,7 @@ private:
                                const QString& text, const std::function<void()>& operation);
     void BuildModes();
     void LoadPictures();
+    const QImage& BackgroundOf(Mode mode) const;
     void MirrorWindow();
 
     Session session_;

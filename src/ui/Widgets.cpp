@@ -19,8 +19,10 @@ QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget) {
     const qreal scale = widget.devicePixelRatioF();
     const QSize pixels = (QSizeF(size) * scale).toSize();
     QImage fitted = image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    fitted = fitted.copy((fitted.width() - pixels.width()) / 2,
-                         (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+    if (fitted.size() != pixels) // a copy takes memory of its own
+        fitted =
+            fitted.copy((fitted.width() - pixels.width()) / 2,
+                        (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
     QPixmap pixmap = QPixmap::fromImage(fitted);
     pixmap.setDevicePixelRatio(scale);
     return pixmap;
