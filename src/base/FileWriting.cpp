@@ -23,19 +23,30 @@ struct Step {
 };
 
 // Where a path leads in the end, so that a link stays a link.
-fs::path FollowLinks(fs::path file) {
+fs::path FollowLinks(fs::path file, std::error_code& error) {
     constexpr int limit = 40;
-    std::error_code error;
-    for (int i = 0; i < limit && fs::is_symlink(fs::symlink_status(file, error)); ++i)
-        file = file.parent_path() / fs::read_symlink(file, error);
+    for (int i = 0; i < limit; ++i) {
+        const fs::file_status status = fs::symlink_status(file, error);
+        if (fs::status_known(status))
+            error.clear(); // a file that is not there is none of the failures
+        if (error || !fs::is_symlink(status))
+            break;
+        const fs::path target = fs::read_symlink(file, error);
+        if (error)
+            break;
+        file = file.parent_path() / target;
+    }
     return file;
 }
 
 // A rename would replace a write-protected file as well, so it is asked for before.
-std::error_code CheckWritable(const fs::path& file) {
+std::error_code CheckWritable(const fs::path& file, bool& exists) {
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
-    if (!fs::exists(status))
+    if (!fs::status_known(status))
+        return error;
+    exists = fs::exists(status);
+    if (!exists)
         return {};
     if (fs::is_directory(status))
         return std::make_error_code(std::errc::is_a_directory);
@@ -96,16 +107,17 @@ void RemoveTemporaries(const FileLayer& files, const std::vector<Step>& steps) {
 std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<FileChange>& changes,
                                    std::vector<Step>& steps) {
     for (const FileChange& change : changes) {
-        Step step{FollowLinks(change.file), {}, {}};
-        std::error_code error = CheckWritable(step.target);
+        std::error_code error;
+        Step step{FollowLinks(change.file, error), {}, {}};
+        bool exists = false;
+        if (!error)
+            error = CheckWritable(step.target, exists);
         if (!error && changes.size() > 1) {
             step.before = files.read(step.target);
             error = step.before.reason;
         }
-        std::error_code ignored;
         if (!error && change.contents)
-            error = WriteTemporary(files, step.target, *change.contents,
-                                   fs::exists(step.target, ignored), step.temporary);
+            error = WriteTemporary(files, step.target, *change.contents, exists, step.temporary);
         if (error)
             return FileFailure{change.file, error};
         steps.push_back(std::move(step));
@@ -271,19 +283,30 @@ bool IsTemporary(const fs::path& file) {
     return file.extension().string().starts_with(TemporaryEnding);
 }
 
+// The files in the folder, as far as it can be read. A folder that fails on the way throws in a
+// range-based loop.
+std::vector<fs::path> FilesIn(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        found.push_back(entry->path());
+    return found;
+}
+
 // The temporary files in the folder; of another folder only those of the target of a link.
 std::vector<fs::path> FindStrays(const fs::path& folder) {
     std::vector<fs::path> strays;
-    std::error_code error;
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        if (IsTemporary(entry.path()))
-            strays.push_back(entry.path());
-        if (!entry.is_symlink(error))
+    for (const fs::path& file : FilesIn(folder)) {
+        if (IsTemporary(file))
+            strays.push_back(file);
+        std::error_code error;
+        const fs::path target = FollowLinks(file, error);
+        if (error || target == file)
             continue;
-        const fs::path target = FollowLinks(entry.path());
-        for (const auto& beside : fs::directory_iterator(target.parent_path(), error))
-            if (IsTemporary(beside.path()) && beside.path().stem() == target.filename())
-                strays.push_back(beside.path());
+        for (const fs::path& beside : FilesIn(target.parent_path()))
+            if (IsTemporary(beside) && beside.stem() == target.filename())
+                strays.push_back(beside);
     }
     return strays;
 }
@@ -320,8 +343,11 @@ std::optional<FileFailure> FinishJournal(const FileLayer& files, const fs::path&
 }
 
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files, const fs::path& folder) {
-    if (auto failure = FinishJournal(files, folder))
-        return failure;
+    auto failure = FinishJournal(files, folder);
+    return failure ? failure : RemoveStrays(files, folder);
+}
+
+std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
     for (const fs::path& stray : FindStrays(folder))
         if (const auto error = files.remove(stray))
             return FileFailure{stray, error};
