@@ -63,7 +63,8 @@ bool MatchesWildcards(std::u8string_view pattern, std::u8string_view name) {
 
 bool IsNormalFile(const fs::path& file) {
     std::error_code error;
-    return fs::is_regular_file(file, error) && !IsHiddenFile(file);
+    const fs::file_status status = fs::status(file, error);
+    return !fs::status_known(status) || (fs::is_regular_file(status) && !IsHiddenFile(file));
 }
 
 // Mixes all bits of the state into all bits of the result (the finalizer of MurmurHash3).
