@@ -71,10 +71,11 @@ struct FolderClaim {
 
 FolderClaim ClaimFolder(const std::filesystem::path& folder);
 
-/// What stands at the path, links followed. A write-protected file's owner may not write.
-std::filesystem::file_status StatusOf(const std::filesystem::path& path);
+/// What stands at the path, links followed; `error` if the system can't tell. A write-protected
+/// file's owner may not write.
+std::filesystem::file_status StatusOf(const std::filesystem::path& path, std::error_code& error);
 
-/// What lies in the folder, in no order; nothing if it can't be read.
+/// What lies in the folder, in no order, as far as it can be read.
 std::vector<std::filesystem::path> EntriesOf(const std::filesystem::path& folder);
 
 /// True for a file that the desktop hides from its user.

@@ -23,18 +23,30 @@ struct Step {
 };
 
 // Where a path leads in the end, so that a link stays a link.
-fs::path FollowLinks(fs::path file) {
+fs::path FollowLinks(fs::path file, std::error_code& error) {
     constexpr int limit = 40;
-    std::error_code error;
-    for (int i = 0; i < limit && fs::is_symlink(fs::symlink_status(file, error)); ++i)
-        file = file.parent_path() / fs::read_symlink(file, error);
+    for (int i = 0; i < limit; ++i) {
+        const fs::file_status status = fs::symlink_status(file, error);
+        if (fs::status_known(status))
+            error.clear(); // a file that is not there is none of the failures
+        if (error || !fs::is_symlink(status))
+            break;
+        const fs::path target = fs::read_symlink(file, error);
+        if (error)
+            break;
+        file = file.parent_path() / target;
+    }
     return file;
 }
 
 // A rename would replace a write-protected file as well, so it is asked for before.
-std::error_code CheckWritable(const fs::path& file) {
-    const fs::file_status status = StatusOf(file);
-    if (!fs::exists(status))
+std::error_code CheckWritable(const fs::path& file, bool& exists) {
+    std::error_code error;
+    const fs::file_status status = StatusOf(file, error);
+    if (error)
+        return error;
+    exists = fs::exists(status);
+    if (!exists)
         return {};
     if (fs::is_directory(status))
         return std::make_error_code(std::errc::is_a_directory);
@@ -95,15 +107,17 @@ void RemoveTemporaries(const FileLayer& files, const std::vector<Step>& steps) {
 std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<FileChange>& changes,
                                    std::vector<Step>& steps) {
     for (const FileChange& change : changes) {
-        Step step{FollowLinks(change.file), {}, {}};
-        std::error_code error = CheckWritable(step.target);
+        std::error_code error;
+        Step step{FollowLinks(change.file, error), {}, {}};
+        bool exists = false;
+        if (!error)
+            error = CheckWritable(step.target, exists);
         if (!error && changes.size() > 1) {
             step.before = files.read(step.target);
             error = step.before.reason;
         }
         if (!error && change.contents)
-            error = WriteTemporary(files, step.target, *change.contents,
-                                   fs::exists(StatusOf(step.target)), step.temporary);
+            error = WriteTemporary(files, step.target, *change.contents, exists, step.temporary);
         if (error)
             return FileFailure{change.file, error};
         steps.push_back(std::move(step));
@@ -272,11 +286,12 @@ bool IsTemporary(const fs::path& file) {
 // The temporary files in the folder; of another folder only those of the target of a link.
 std::vector<fs::path> FindStrays(const fs::path& folder) {
     std::vector<fs::path> strays;
-    for (const fs::path& entry : EntriesOf(folder)) {
-        if (IsTemporary(entry))
-            strays.push_back(entry);
-        const fs::path target = FollowLinks(entry);
-        if (target == entry)
+    for (const fs::path& file : EntriesOf(folder)) {
+        if (IsTemporary(file))
+            strays.push_back(file);
+        std::error_code error;
+        const fs::path target = FollowLinks(file, error);
+        if (error || target == file)
             continue;
         for (const fs::path& beside : EntriesOf(target.parent_path()))
             if (IsTemporary(beside) && beside.stem() == target.filename())
@@ -317,8 +332,11 @@ std::optional<FileFailure> FinishJournal(const FileLayer& files, const fs::path&
 }
 
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files, const fs::path& folder) {
-    if (auto failure = FinishJournal(files, folder))
-        return failure;
+    auto failure = FinishJournal(files, folder);
+    return failure ? failure : RemoveStrays(files, folder);
+}
+
+std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
     for (const fs::path& stray : FindStrays(folder))
         if (const auto error = files.remove(stray))
             return FileFailure{stray, error};

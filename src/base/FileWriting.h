@@ -42,10 +42,14 @@ std::optional<FileFailure> WriteFile(const FileLayer& files, const std::filesyst
 std::optional<FileFailure> FinishJournal(const FileLayer& files,
                                          const std::filesystem::path& journalFolder);
 
-/// FinishJournal, and then removes the temporary files that a killed run left in the folder or
-/// beside the target of a link in it. Not while another copy of the program may be writing there.
+/// FinishJournal and RemoveStrays.
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files,
                                                    const std::filesystem::path& journalFolder);
+
+/// Removes the temporary files that a killed run left in the folder or beside the target of a link
+/// in it. Not while another copy of the program may be writing there.
+std::optional<FileFailure> RemoveStrays(const FileLayer& files,
+                                        const std::filesystem::path& folder);
 
 /// Whether a file can be created in the folder; nothing is left of it. A folder that is missing is
 /// no failure.

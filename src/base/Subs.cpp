@@ -62,7 +62,9 @@ bool MatchesWildcards(std::u8string_view pattern, std::u8string_view name) {
 }
 
 bool IsNormalFile(const fs::path& file) {
-    return fs::is_regular_file(StatusOf(file)) && !IsHiddenFile(file);
+    std::error_code unknown;
+    const fs::file_status status = StatusOf(file, unknown);
+    return unknown || (fs::is_regular_file(status) && !IsHiddenFile(file));
 }
 
 // Mixes all bits of the state into all bits of the result (the finalizer of MurmurHash3).

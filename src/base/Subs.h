@@ -33,8 +33,9 @@ private:
 std::string ReadIniValue(const FileLayer& files, const std::filesystem::path& file,
                          std::string_view section, std::string_view key);
 
-/// True if the path names a file that is neither hidden nor a folder. The name may hold the
-/// wildcards "*" and "?"; one matching file is enough then.
+/// True if the path names a file that is neither hidden nor a folder, or if the system can't tell:
+/// reading it then says why. The name may hold the wildcards "*" and "?"; one matching file is
+/// enough then.
 bool FileExists(const std::filesystem::path& path);
 
 /// A throw of a die with n sides, 1 to n.

@@ -306,10 +306,15 @@ FolderClaim ClaimFolder(const std::filesystem::path& folder) {
 
 #ifdef _WIN32
 
-fs::file_status StatusOf(const Path& path) {
+fs::file_status StatusOf(const Path& path, std::error_code& error) {
+    error.clear();
     const DWORD attributes = AttributesOf(path);
-    if (attributes == INVALID_FILE_ATTRIBUTES)
-        return fs::file_status(fs::file_type::not_found);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const std::error_code reason = LastError();
+        if (reason != std::errc::no_such_file_or_directory)
+            error = reason;
+        return fs::file_status(error ? fs::file_type::none : fs::file_type::not_found);
+    }
     const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
@@ -346,9 +351,11 @@ Path RunningProgramFolder() {
 
 #else
 
-fs::file_status StatusOf(const Path& path) {
-    std::error_code error;
-    return fs::status(path, error);
+fs::file_status StatusOf(const Path& path, std::error_code& error) {
+    const fs::file_status status = fs::status(path, error);
+    if (fs::status_known(status))
+        error.clear(); // that nothing is there is an answer
+    return status;
 }
 
 std::vector<Path> EntriesOf(const Path& folder) {

@@ -40,12 +40,13 @@ std::string NoWritingText(const Platform& platform, const Folders& folders) {
 // While an interrupted write can't be finished, nothing is written on top of it.
 void BringUpToDate(const Platform& platform, const Folders& folders,
                    std::vector<std::string>& faults) {
-    for (const auto& folder : {folders.TempFolder, folders.EmporiumFolder()})
-        if (const auto failure = FinishInterruptedWrites(platform.files, folder)) {
-            faults.push_back(FromPath(failure->file.filename()) + ": " +
-                             ReasonText(failure->reason));
-            return;
-        }
+    if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder())) {
+        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
+        return;
+    }
+    // Half a page that stays because it can't be removed does no harm.
+    for (const auto& pages : {folders.HtmlFolder, folders.TempFolder})
+        RemoveStrays(platform.files, pages);
     RenameOldCategoryFiles(platform.files, folders, faults);
     ImportArsenal(platform.files, folders, faults);
 }

@@ -144,6 +144,9 @@ bool AppendedTo(const Platform& platform, const Folders& folders, const std::str
     if (!ReadyToWrite(platform, folders))
         return false;
     const CategoryFile file = ReadCategoryFile(platform.files, folders, category);
+    if (file.state == FileText::State::Unreadable)
+        return !ReportFailure(platform, NotSaved,
+                              FileFailure{CategoryPath(folders, category), file.reason});
     if (!file.CanBeWritten())
         return ReportNotWhole(platform, category);
     if (file.records.size() >= MaxRows) {

@@ -145,14 +145,16 @@ std::string WithCategory(const CategoryList& list, std::string_view name) {
 }
 
 std::string WithoutCategory(const CategoryList& list, std::string_view name) {
-    const std::string_view lineEnd = LineEndOf(list.bytes);
-    LineReader lines(list.bytes);
-    std::string_view line;
-    lines.Next(line);
-    std::string text = std::string(line).append(lineEnd);
-    while (lines.Next(line))
-        if (line != name)
-            text.append(line).append(lineEnd);
+    std::string text;
+    std::string_view rest = list.bytes;
+    for (bool isNumber = true; !rest.empty(); isNumber = false) {
+        const auto end = std::min(rest.find('\n'), rest.size() - 1) + 1;
+        std::string_view line;
+        LineReader(rest).Next(line);
+        if (isNumber || line != name)
+            text.append(rest.substr(0, end));
+        rest.remove_prefix(end);
+    }
     return Numbered(text);
 }
 

@@ -21,7 +21,8 @@ bool IsOwnFile(std::string_view name) {
 // A file whose name differs at most in case; on Windows that is the same file.
 bool FileStands(const Folders& folders, std::string_view name) {
     const std::filesystem::path file = CategoryPath(folders, name);
-    if (std::filesystem::exists(StatusOf(file)))
+    std::error_code unknown;
+    if (std::filesystem::exists(StatusOf(file, unknown)) || unknown)
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
     const auto entries = EntriesOf(folders.EmporiumFolder());
