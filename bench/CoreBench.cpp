@@ -201,8 +201,9 @@ void Remove10000ShopRows(benchmark::State& state) {
 
 void ShopExport(benchmark::State& state) {
     const ShopEditor shop = FilledShop(state.range(0));
+    std::string document;
     for (auto _ : state) {
-        std::string document;
+        document.clear();
         WriteShopExport(shop, document);
         benchmark::DoNotOptimize(document);
     }
@@ -210,8 +211,9 @@ void ShopExport(benchmark::State& state) {
 
 void ShopPrint(benchmark::State& state) {
     const ShopEditor shop = FilledShop(state.range(0));
+    std::string document;
     for (auto _ : state) {
-        std::string document;
+        document.clear();
         WriteShopPrint(shop, document);
         benchmark::DoNotOptimize(document);
     }
@@ -222,8 +224,9 @@ void ItemListDocument(benchmark::State& state) {
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
     LoadItems(editor, world.platform, world.folders);
+    std::string document;
     for (auto _ : state) {
-        std::string document;
+        document.clear();
         WriteItemList(editor, document);
         benchmark::DoNotOptimize(document);
     }

@@ -30,6 +30,7 @@ void ChoiceList::AddAll(const std::vector<std::string>& entries) {
     const auto order = GermanOrderOf(
         entries_.size(), false, [this](std::size_t i) { return std::string_view(entries_[i]); });
     std::vector<std::string> sorted;
+    sorted.reserve(order.size());
     for (const int i : order)
         sorted.push_back(std::move(entries_[static_cast<std::size_t>(i)]));
     entries_ = std::move(sorted);

@@ -10,8 +10,9 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
-#include <QTime>
 #include <QUrl>
+
+#include <chrono>
 
 namespace emporium::ui {
 
@@ -127,7 +128,8 @@ bool PrintPage(QWidget& window, HtmlView& page) {
 }
 
 float SecondsSinceMidnight() {
-    return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0F;
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<float>(now % std::chrono::days(1)).count();
 }
 
 } // namespace emporium::ui
