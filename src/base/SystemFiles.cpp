@@ -79,6 +79,12 @@ bool IsFolder(const Path& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// The system lets a name hold halves of characters, which no text can.
+bool IsText(const wchar_t* name) {
+    return WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, name, -1, nullptr, 0, nullptr,
+                               nullptr) > 0;
+}
+
 HANDLE ToHandle(Handle handle) {
     return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
 }
@@ -330,7 +336,7 @@ std::vector<Path> EntriesOf(const Path& folder) {
         return entries;
     do {
         const std::wstring_view name = found.cFileName;
-        if (name != L"." && name != L"..")
+        if (name != L"." && name != L".." && IsText(found.cFileName))
             entries.push_back(folder / name);
     } while (FindNextFileW(search, &found));
     FindClose(search);

@@ -139,7 +139,7 @@ TEST(InterruptedWrites, WhatLiesBehindLinksIsFinishedToo) {
 TEST(InterruptedWrites, AJournalWhoseContentsAreLostTakesNothingAway) {
     const Disk disk;
     std::ofstream(disk.folder / "b.dat.orvan-neu0") << "neu b";
-    std::ofstream(disk.folder / JournalName)
+    std::ofstream(disk.folder / JournalName, std::ios::binary)
         << JournalText({{"b.dat.orvan-neu0", "b.dat", 5, Checksum("neu b")},
                         {"c.dat.orvan-neu0", "c.dat", 5, Checksum("neu c")},
                         {"", "a.dat", 0, Checksum("")}});
@@ -154,7 +154,7 @@ TEST(InterruptedWrites, WithoutAWholeJournalNothingButTemporariesGoes) {
     const Disk disk;
     const State before = disk.Look();
     std::ofstream(disk.folder / "a.dat.orvan-neu0") << "neu";
-    std::ofstream(disk.folder / JournalName)
+    std::ofstream(disk.folder / JournalName, std::ios::binary)
         << JournalText({{"a.dat.orvan-neu0", "a.dat", 3, Checksum("neu")}}).substr(1);
     EXPECT_EQ(disk.Finish(), before);
     // A journal that can't be read may be a whole one, so its files have to stay.
