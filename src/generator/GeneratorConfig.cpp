@@ -26,8 +26,11 @@ std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& fo
     const FileText text = ReadConfigFile(files, folders, "ShopgeneratorShops.dat", faults);
     std::vector<std::string> types;
     LineReader lines(text.bytes);
-    for (std::string_view line; lines.Next(line);)
+    for (std::string_view line; types.size() < MaxRows && lines.Next(line);)
         types.emplace_back(line);
+    if (!lines.AtEnd())
+        faults.emplace_back("ShopgeneratorShops.dat: Es werden nur die ersten 32767 Shoparten "
+                            "gezeigt.");
     return types;
 }
 

@@ -12,8 +12,8 @@
 
 namespace emporium {
 
-/// The shop types in file order, an empty line as an empty type. Adds to `faults` what could not
-/// be read; a missing file gives no types.
+/// The shop types in file order, an empty line as an empty type, at most MaxRows of them. Adds to
+/// `faults` what could not be read; a missing file gives no types.
 std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
                                        std::vector<std::string>& faults);
 

@@ -130,6 +130,9 @@ void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders&
         faults.push_back("ItemKategorien.dat: " + ReasonText(list.reason) +
                          std::string(" Deshalb gibt es nur die Auswahl \"Alles\", und neue "
                                      "Kategorien können nicht angelegt werden."_ansi));
+    if (list.tooLong)
+        faults.emplace_back(
+            "ItemKategorien.dat: Es werden nur die ersten 32767 Kategorien gezeigt.");
     editor.cmdKategorieNeu.enabled = list.state == FileText::State::Whole;
     AddNewNames(editor, std::move(list.names));
 }

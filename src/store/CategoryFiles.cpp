@@ -128,10 +128,13 @@ bool IsPlainName(std::string_view name) {
 
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
     FileText text = files.read(CategoryListPath(folders));
-    CategoryList list{text.state, text.reason, std::move(text.bytes), {}};
+    CategoryList list{text.state, text.reason, std::move(text.bytes), {}, false};
     if (text.state == FileText::State::Absent)
         list.reason = std::make_error_code(std::errc::no_such_file_or_directory);
     list.names = NamesIn(list.bytes);
+    list.tooLong = list.names.size() > MaxRows;
+    if (list.tooLong)
+        list.names.resize(MaxRows);
     return list;
 }
 

@@ -79,9 +79,10 @@ struct CategoryList {
     std::error_code reason; // unless whole
     std::string bytes;
     std::vector<std::string> names; // in file order; without empty lines, repetitions and "Alles"
+    bool tooLong = false;           // the file has more than these names
 };
 
-/// The names behind the first line. What the first line counts is not looked at.
+/// The names behind the first line, at most MaxRows. What the first line counts is not looked at.
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders);
 
 /// The bytes of the list with a further name, or without one, and with the right number on its

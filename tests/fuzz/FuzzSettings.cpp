@@ -1,0 +1,73 @@
+// Any bytes as a settings file: what it says of a section and key depends on nothing but the first
+// line that tells it.
+#include "Fuzz.h"
+
+#include "base/Ansi.h"
+#include "generator/GeneratorConfig.h"
+
+#include <limits>
+#include <set>
+
+namespace emporium::fuzz {
+namespace {
+
+constexpr std::size_t MostNames = 12; // each section is asked for each key
+
+void Collect(std::set<std::string>& names, std::string_view name) {
+    if (names.size() < MostNames)
+        names.emplace(name);
+}
+
+std::string Upper(std::string text) {
+    for (char& c : text)
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    return text;
+}
+
+void CheckValue(std::string_view text, const std::string& value) {
+    Expect(value.size() <= 254, "a value has at most 254 characters");
+    Expect(text.find(value) != text.npos, "a value stands in the file");
+    Expect(value.find('\n') == value.npos, "a value is of one line");
+}
+
+void CheckWareCount(const IniFile& settings, const std::string& section) {
+    const int count = ReadWareCount(settings, section);
+    Expect(count == 0 || !settings.Value(section, "WareCount").empty(), "no count from nothing");
+}
+
+} // namespace
+} // namespace emporium::fuzz
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace emporium;
+    using namespace emporium::fuzz;
+    const std::string text(TextOf(data, size));
+    std::set<std::string> sections, keys;
+    for (const std::string& line : LinesOf(text)) {
+        if (const auto head = line.find('['); head != line.npos)
+            Collect(sections, line.substr(head + 1, line.find(']') - head - 1));
+        Collect(keys, line.substr(0, line.find('=')));
+    }
+    const IniFile settings(text);
+    const IniFile commented("; Ware1=x\r\n" + text);
+    // The second head of a section, and all that stands below it, count no more.
+    const IniFile repeated(text + "\r\n[q]\r\n[q]\r\n" + text);
+    const IniFile grown(text + "\r\n[Ganz neuer Abschnitt]\r\n Ware1 = \"Seil\" \r\n");
+    Expect(grown.Value("ganz neuer abschnitt", "WARE1") == "Seil" ||
+               !settings.Value("ganz neuer abschnitt", "WARE1").empty() || sections.size() > 0,
+           "a new section is found");
+    for (const std::string& section : sections) {
+        for (const std::string& key : keys) {
+            const std::string value = settings.Value(section, key);
+            CheckValue(text, value);
+            Expect(settings.Value(" " + Upper(section), Upper(key) + " ") == value, "any case");
+            Expect(commented.Value(section, key) == value, "a comment changes nothing");
+            Expect(repeated.Value(section, key) == value, "the first of two counts");
+            Expect(FoldCase(section).find("ganz neu") != std::string::npos ||
+                       grown.Value(section, key) == value,
+                   "a new section changes no other");
+        }
+        CheckWareCount(settings, section);
+    }
+    return 0;
+}
