@@ -54,13 +54,13 @@ std::pair<std::string_view, std::string_view> AroundRecord(std::string_view byte
     return {bytes.substr(0, begin), end == bytes.npos ? "" : bytes.substr(end + 1)};
 }
 
-std::vector<std::string> NamesIn(std::string_view listText) {
+std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen = {"", AllCategories};
     LineReader lines(listText);
     std::string_view line;
     lines.Next(line);
-    while (lines.Next(line))
+    while (names.size() < limit && lines.Next(line))
         if (seen.insert(line).second)
             names.emplace_back(line);
     return names;
@@ -69,7 +69,8 @@ std::vector<std::string> NamesIn(std::string_view listText) {
 // The list's text with the number of its names on the first line.
 std::string Numbered(std::string_view listText) {
     const auto end = listText.find('\n');
-    return " " + std::to_string(NamesIn(listText).size()) + " " + std::string(LineEndOf(listText)) +
+    return " " + std::to_string(NamesIn(listText, listText.size()).size()) + " " +
+           std::string(LineEndOf(listText)) +
            std::string(end == listText.npos ? "" : listText.substr(end + 1));
 }
 
@@ -131,7 +132,7 @@ CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
     CategoryList list{text.state, text.reason, std::move(text.bytes), {}, false};
     if (text.state == FileText::State::Absent)
         list.reason = std::make_error_code(std::errc::no_such_file_or_directory);
-    list.names = NamesIn(list.bytes);
+    list.names = NamesIn(list.bytes, MaxRows + 1);
     list.tooLong = list.names.size() > MaxRows;
     if (list.tooLong)
         list.names.resize(MaxRows);

@@ -27,6 +27,8 @@ int PlaceOf(const ChoiceList& list, std::string_view entry) {
     return found == list.Entries().end() ? -1 : static_cast<int>(found - list.Entries().begin());
 }
 
+constexpr std::size_t MostViews = 100;
+
 class FileWork {
 public:
     explicit FileWork(const std::filesystem::path& folder) {
@@ -115,10 +117,13 @@ public:
     /// All that reads the files below Data, and a new item in the first category that takes it.
     void Tour() {
         Start();
-        for (const std::string& entry : std::vector(editor.cmbKategorien.Entries())) {
-            Command("view " + entry);
-            View(entry);
+        const auto entries = editor.cmbKategorien.Entries();
+        for (std::size_t i = 0; i < entries.size(); i += 1 + entries.size() / MostViews) {
+            Command("view " + entries[i]);
+            View(entries[i]);
         }
+        Command("view");
+        View(AllCategories);
         Command("generator");
         OpenGenerator(window.generator, window.shop, platform, window.folders);
         for (int race = 0; race < static_cast<int>(window.shop.cmbRasse.Entries().size()); ++race) {
