@@ -1,18 +1,15 @@
 #include "base/FileWriting.h"
 
-#include "base/Ansi.h"
 #include "base/Journal.h"
+#include "base/Temporaries.h"
 
 #include <algorithm>
-#include <array>
 
 namespace emporium {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* TemporaryEnding = ".orvan-neu";
 
 // A change on its way: where it goes in the end, and the file beside that which holds it until
 // then.
@@ -21,23 +18,6 @@ struct Step {
     fs::path temporary; // empty for a removal
     FileText before;    // for the way back, if there is more than one step
 };
-
-// Where a path leads in the end, so that a link stays a link.
-fs::path FollowLinks(fs::path file, std::error_code& error) {
-    constexpr int limit = 40;
-    for (int i = 0; i < limit; ++i) {
-        const fs::file_status status = fs::symlink_status(file, error);
-        if (fs::status_known(status))
-            error.clear(); // a file that is not there is none of the failures
-        if (error || !fs::is_symlink(status))
-            break;
-        const fs::path target = fs::read_symlink(file, error);
-        if (error)
-            break;
-        file = file.parent_path() / target;
-    }
-    return file;
-}
 
 // A rename would replace a write-protected file as well, so it is asked for before.
 std::error_code CheckWritable(const fs::path& file, bool& exists) {
@@ -53,49 +33,6 @@ std::error_code CheckWritable(const fs::path& file, bool& exists) {
     if ((status.permissions() & fs::perms::owner_write) == fs::perms::none)
         return std::make_error_code(std::errc::permission_denied);
     return {};
-}
-
-std::error_code WriteAll(const FileLayer& files, FileLayer::Handle handle, std::string_view bytes) {
-    while (!bytes.empty()) {
-        std::size_t written = 0;
-        if (const auto error = files.write(handle, bytes, written))
-            return error;
-        if (written == 0)
-            return std::make_error_code(std::errc::io_error);
-        bytes.remove_prefix(written);
-    }
-    return files.flush(handle);
-}
-
-std::error_code CreateTemporary(const FileLayer& files, const fs::path& target, fs::path& temporary,
-                                FileLayer::Handle& handle) {
-    constexpr int limit = 10'000;
-    std::error_code error;
-    for (int i = 0; i < limit; ++i) {
-        temporary = target;
-        temporary += TemporaryEnding + std::to_string(i);
-        error = files.createNew(temporary, handle);
-        if (error != std::errc::file_exists)
-            break;
-    }
-    return error;
-}
-
-// Writes the contents beside the target. On failure nothing is left.
-std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
-                               std::string_view contents, bool replaces, fs::path& temporary) {
-    FileLayer::Handle handle = 0;
-    if (const auto error = CreateTemporary(files, target, temporary, handle))
-        return error;
-    std::error_code error = WriteAll(files, handle, contents);
-    const std::error_code closing = files.close(handle);
-    if (!error)
-        error = closing;
-    if (!error && replaces)
-        error = files.copyMode(target, temporary);
-    if (error)
-        files.remove(temporary);
-    return error;
 }
 
 void RemoveTemporaries(const FileLayer& files, const std::vector<Step>& steps) {
@@ -279,27 +216,6 @@ std::optional<FileFailure> FinishSteps(const FileLayer& files, const fs::path& f
     return std::nullopt;
 }
 
-bool IsTemporary(const fs::path& file) {
-    return file.extension().string().starts_with(TemporaryEnding);
-}
-
-// The temporary files in the folder; of another folder only those of the target of a link.
-std::vector<fs::path> FindStrays(const fs::path& folder) {
-    std::vector<fs::path> strays;
-    for (const fs::path& file : EntriesOf(folder)) {
-        if (IsTemporary(file))
-            strays.push_back(file);
-        std::error_code error;
-        const fs::path target = FollowLinks(file, error);
-        if (error || target == file)
-            continue;
-        for (const fs::path& beside : EntriesOf(target.parent_path()))
-            if (IsTemporary(beside) && beside.stem() == target.filename())
-                strays.push_back(beside);
-    }
-    return strays;
-}
-
 } // namespace
 
 std::optional<FileFailure> WriteFiles(const FileLayer& files, const fs::path& journalFolder,
@@ -334,61 +250,6 @@ std::optional<FileFailure> FinishJournal(const FileLayer& files, const fs::path&
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files, const fs::path& folder) {
     auto failure = FinishJournal(files, folder);
     return failure ? failure : RemoveStrays(files, folder);
-}
-
-std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
-    for (const fs::path& stray : FindStrays(folder))
-        if (const auto error = files.remove(stray))
-            return FileFailure{stray, error};
-    return std::nullopt;
-}
-
-std::optional<FileFailure> TryWriting(const FileLayer& files, const fs::path& folder) {
-    fs::path probe;
-    FileLayer::Handle handle = 0;
-    const auto error = CreateTemporary(files, folder / "Schreibprobe", probe, handle);
-    if (error == std::errc::no_such_file_or_directory)
-        return std::nullopt;
-    if (error)
-        return FileFailure{folder, error};
-    files.close(handle);
-    files.remove(probe);
-    return std::nullopt;
-}
-
-std::string ReasonText(const std::error_code& reason) {
-    if (!reason)
-        return "Die Datei ist leer.";
-    struct Known {
-        std::errc code;
-        std::string_view text;
-    };
-    static constexpr std::array<Known, 14> known = {{
-        {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
-        {std::errc::permission_denied, "Der Zugriff wurde verweigert oder die Datei ist "
-                                       "schreibgeschützt."_ansi},
-        {std::errc::operation_not_permitted, "Der Zugriff wurde verweigert."},
-        {std::errc::read_only_file_system, "Der Datenträger ist schreibgeschützt."_ansi},
-        {std::errc::io_error, "Beim Lesen oder Schreiben ist ein Fehler aufgetreten."},
-        {std::errc::too_many_files_open, "Es sind zu viele Dateien geöffnet."_ansi},
-        {std::errc::too_many_files_open_in_system, "Es sind zu viele Dateien geöffnet."_ansi},
-        {std::errc::device_or_resource_busy, "Ein anderes Programm benutzt die Datei gerade."},
-        {std::errc::no_such_file_or_directory, "Die Datei oder ihr Ordner fehlt."},
-        {std::errc::not_a_directory, "Die Datei oder ihr Ordner fehlt."},
-        {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},
-        {std::errc::filename_too_long, "Der Name ist zu lang."},
-        {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
-        {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
-    }};
-    for (const Known& entry : known)
-        if (reason == entry.code)
-            return std::string(entry.text);
-    return "Das System meldet den Fehler " + std::to_string(reason.value()) + ".";
-}
-
-std::string FailureText(std::string_view what, const FileFailure& failure) {
-    return std::string(what) + "\n\nDatei: " + FromPath(failure.file) +
-           "\nGrund: " + ReasonText(failure.reason);
 }
 
 } // namespace emporium

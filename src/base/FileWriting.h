@@ -4,20 +4,14 @@
 // are bound together by a journal; what it announces is carried out before anything else is read.
 #pragma once
 
+#include "base/FileFailure.h"
 #include "base/FileLayer.h"
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace emporium {
-
-/// What failed, and why.
-struct FileFailure {
-    std::filesystem::path file;
-    std::error_code reason;
-};
 
 struct FileChange {
     std::filesystem::path file;
@@ -45,20 +39,5 @@ std::optional<FileFailure> FinishJournal(const FileLayer& files,
 /// FinishJournal and RemoveStrays.
 std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files,
                                                    const std::filesystem::path& journalFolder);
-
-/// Removes the temporary files that a killed run left in the folder or beside the target of a link
-/// in it. Not while another copy of the program may be writing there.
-std::optional<FileFailure> RemoveStrays(const FileLayer& files,
-                                        const std::filesystem::path& folder);
-
-/// Whether a file can be created in the folder; nothing is left of it. A folder that is missing is
-/// no failure.
-std::optional<FileFailure> TryWriting(const FileLayer& files, const std::filesystem::path& folder);
-
-/// The reason in German, a whole sentence.
-std::string ReasonText(const std::error_code& reason);
-
-/// The text of a box: what could not be done, then the file and the reason.
-std::string FailureText(std::string_view what, const FileFailure& failure);
 
 } // namespace emporium

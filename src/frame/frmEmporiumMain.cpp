@@ -1,6 +1,7 @@
 #include "frame/frmEmporiumMain.h"
 
 #include "base/FileWriting.h"
+#include "base/Temporaries.h"
 #include "frame/Version.h"
 #include "itemeditor/CategoryChoice.h"
 #include "shopeditor/ShopList.h"

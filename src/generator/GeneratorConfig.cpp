@@ -1,7 +1,7 @@
 #include "generator/GeneratorConfig.h"
 
 #include "base/Ansi.h"
-#include "base/FileWriting.h"
+#include "base/FileFailure.h"
 #include "base/GermanNumber.h"
 #include "base/LineReader.h"
 

@@ -1,8 +1,8 @@
 // Owner names by the naming custom of a race, drawn from the word lists below "Borough".
 #pragma once
 
+#include "base/FileFailure.h"
 #include "base/FileLayer.h"
-#include "base/FileWriting.h"
 #include "base/Subs.h"
 #include "base/Variablen.h"
 

@@ -1,6 +1,6 @@
 #include "store/CategoryFiles.h"
 
-#include "base/FileWriting.h"
+#include "base/FileFailure.h"
 #include "base/LineReader.h"
 
 #include <algorithm>

@@ -1,0 +1,44 @@
+#include "base/FileFailure.h"
+
+#include "base/Ansi.h"
+
+#include <array>
+
+namespace emporium {
+
+std::string ReasonText(const std::error_code& reason) {
+    if (!reason)
+        return "Die Datei ist leer.";
+    struct Known {
+        std::errc code;
+        std::string_view text;
+    };
+    static constexpr std::array<Known, 14> known = {{
+        {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
+        {std::errc::permission_denied, "Der Zugriff wurde verweigert oder die Datei ist "
+                                       "schreibgeschützt."_ansi},
+        {std::errc::operation_not_permitted, "Der Zugriff wurde verweigert."},
+        {std::errc::read_only_file_system, "Der Datenträger ist schreibgeschützt."_ansi},
+        {std::errc::io_error, "Beim Lesen oder Schreiben ist ein Fehler aufgetreten."},
+        {std::errc::too_many_files_open, "Es sind zu viele Dateien geöffnet."_ansi},
+        {std::errc::too_many_files_open_in_system, "Es sind zu viele Dateien geöffnet."_ansi},
+        {std::errc::device_or_resource_busy, "Ein anderes Programm benutzt die Datei gerade."},
+        {std::errc::no_such_file_or_directory, "Die Datei oder ihr Ordner fehlt."},
+        {std::errc::not_a_directory, "Die Datei oder ihr Ordner fehlt."},
+        {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},
+        {std::errc::filename_too_long, "Der Name ist zu lang."},
+        {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
+        {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
+    }};
+    for (const Known& entry : known)
+        if (reason == entry.code)
+            return std::string(entry.text);
+    return "Das System meldet den Fehler " + std::to_string(reason.value()) + ".";
+}
+
+std::string FailureText(std::string_view what, const FileFailure& failure) {
+    return std::string(what) + "\n\nDatei: " + FromPath(failure.file) +
+           "\nGrund: " + ReasonText(failure.reason);
+}
+
+} // namespace emporium
