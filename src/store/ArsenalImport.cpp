@@ -117,6 +117,8 @@ void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_v
     if (!FileExists(older))
         return;
     const FileText text = files.read(older);
+    if (text.state == FileText::State::Absent)
+        return;
     if (!text.IsWhole()) {
         faults.push_back(FaultLine(older, text.reason));
         return;

@@ -378,11 +378,12 @@ def attempt_short_write(operation, call):
     the program writes the other half."""
     root = place()
     build(root, OPERATIONS[operation][0])
-    half, rest = call.result // 2, call.result - call.result // 2
+    half = call.result // 2
     outcome = traced(root, operation, f"write:retval={half}:when={call.number}")
     if "(INJECTED)" not in outcome.log:
         return False
-    following = outcome.log.split("(INJECTED)", 1)[1]
+    whole = int(re.search(r", (\d+)\) += \d+ \(INJECTED\)", outcome.log)[1])
+    rest, following = whole - half, outcome.log.split("(INJECTED)", 1)[1]
     expect(re.search(rf"write\([^\n]*, {rest}\) += {rest}\n", following),
            "the rest is not written")
     return True
