@@ -70,7 +70,7 @@ void WindowTest::Enter(const QString& prompt, const QString& text) {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", TEST_PLATFORM);
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
     // The system's own file dialog can be answered by its user only.
