@@ -10,7 +10,7 @@ for tool in strace python3 chattr unshare; do
     command -v "$tool" >/dev/null || { echo "$tool is missing, see the head of $0"; exit 1; }
 done
 
-packaging/install-packages
+packaging/install-packages packaging/debian-packages
 cmake --preset release
 cmake --build --preset release --target file_work
 disk=build/release/faults

@@ -26,16 +26,16 @@ bool AskDespiteOtherCopy(const Platform& platform) {
 }
 
 // Told at the start, before a save fails. Empty if nothing stands in the way of writing.
-std::string NoWritingText(const Platform& platform, const Folders& folders) {
-    for (const auto& folder : {folders.EmporiumFolder(), folders.TempFolder})
-        if (const auto failure = TryWriting(platform.files, folder))
-            return FailureText(
-                "Das Programm kann in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und "
-                "Läden zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
-                "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
-                "Dokumente, und startet das Programm von dort."_ansi,
-                *failure);
-    return {};
+std::string NoWritingText(const Platform& platform, const std::filesystem::path& folder) {
+    const auto failure = TryWriting(platform.files, folder);
+    if (!failure)
+        return {};
+    return FailureText(
+        "Das Programm kann in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und Läden "
+        "zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
+        "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
+        "Dokumente, und startet das Programm von dort."_ansi,
+        *failure);
 }
 
 // While an interrupted write can't be finished, nothing is written on top of it.
@@ -63,10 +63,12 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform,
     window.claim = ClaimFolder(folders.EmporiumFolder());
     if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
-    std::string notice = NoWritingText(platform, folders);
+    std::string notice = NoWritingText(platform, folders.EmporiumFolder());
     // What another copy is just writing looks like something to be finished.
     if (notice.empty() && !window.claim.takenElsewhere)
         BringUpToDate(platform, folders, faults);
+    if (notice.empty())
+        notice = NoWritingText(platform, folders.TempFolder);
     ReadCategoryList(window.items, platform.files, folders, faults);
     window.caption = Caption();
     if (!faults.empty())

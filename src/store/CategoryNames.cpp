@@ -22,7 +22,7 @@ bool IsOwnFile(std::string_view name) {
 bool FileStands(const Folders& folders, std::string_view name) {
     const std::filesystem::path file = CategoryPath(folders, name);
     std::error_code unknown;
-    if (std::filesystem::exists(StatusOf(file, unknown)) || unknown)
+    if (std::filesystem::exists(StatusOf(file, unknown)))
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
     const auto entries = EntriesOf(folders.EmporiumFolder());
