@@ -272,7 +272,7 @@ def expect_told_or_done(root, operation, outcome, reason=""):
     expect(len(outcome.boxes) <= 1, f"more than one box: {outcome.boxes}")
     if outcome.boxes:
         box = outcome.boxes[0]
-        expect(re.search(r"\.(dat|html|orvan-)|\nDatei: ", box), f"the box names no file: {box}")
+        expect(re.search(r"\.(dat|html|orvan-)|Datei: ", box), f"the box names no file: {box}")
         expect(reason in box, f"the box does not tell the reason '{reason}': {box}")
     if operation == "start":
         expect_each_file(root, before, after)
