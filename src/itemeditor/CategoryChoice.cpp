@@ -104,6 +104,21 @@ std::string AskCategoryName(const Platform& platform, const Folders& folders, Ca
     }
 }
 
+const std::string& HomeName(const ItemEditor& editor, int row) {
+    const int home = editor.ItemHomeCategories[static_cast<std::size_t>(row)];
+    return editor.viewFiles[static_cast<std::size_t>(home)].name;
+}
+
+// The row of the record that is chosen in `before`, in the same category; -1 if it is gone.
+int FindRecord(const ItemEditor& editor, const ItemEditor& before) {
+    const int chosen = before.CurrentItemRow;
+    for (int row = 0; row < editor.ItemCount(); ++row)
+        if (editor.Record(row) == before.Record(chosen) &&
+            HomeName(editor, row) == HomeName(before, chosen))
+            return row;
+    return -1;
+}
+
 // Why the chosen category stays, empty if it can go.
 std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
                           const Folders& folders, const std::string& name) {
@@ -157,19 +172,14 @@ void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& fold
 }
 
 void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& folders) {
-    // The views keep their text alive.
-    const auto before = editor.viewFiles;
-    const bool editing = editor.EditingExisting;
-    RecordView record;
-    if (editor.CurrentItemRow >= 0)
-        record = editor.Record(editor.CurrentItemRow);
+    const ItemEditor before = editor; // keeps the text of its views alive
     std::vector<std::string> faults;
     ReadView(editor, platform, folders, faults);
-    const auto found = std::find(editor.Items.begin(), editor.Items.end(), record);
-    if (found != editor.Items.end()) {
-        editor.CurrentItemRow = static_cast<int>(found - editor.Items.begin());
-        editor.EditingExisting = editing;
-        editor.lvGegenstände.toolTip = ItemName(record);
+    const int row = before.CurrentItemRow < 0 ? -1 : FindRecord(editor, before);
+    if (row >= 0) {
+        editor.CurrentItemRow = row;
+        editor.EditingExisting = before.EditingExisting;
+        editor.lvGegenstände.toolTip = ItemName(editor.Record(row));
     }
     UpdateItemButtons(editor);
     UpdateSaveAvailability(editor);

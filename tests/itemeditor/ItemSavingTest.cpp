@@ -171,6 +171,16 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     vanished.Save();
     vanished.Save();
     EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
+    World twins(before, true);
+    twins.program.Write("Emporium/Nahkampfwaffen.dat", coat);
+    twins.View("Alles");
+    twins.Open(twins.editor.ItemCount() - 4); // the coat of Kleidung, not its twin
+    twins.Fill(Hat);
+    twins.program.Write("Emporium/Kleidung.dat", foreign + before);
+    twins.Save();
+    twins.Save();
+    EXPECT_EQ(twins.File("Kleidung"), foreign + changed);
+    EXPECT_EQ(twins.File("Nahkampfwaffen"), coat);
     World moves(foreign + before, true);
     moves.FormCategory("Abakus");
     moves.Save();
