@@ -28,6 +28,8 @@ std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& fo
     LineReader lines(text.bytes);
     for (std::string_view line; types.size() < MaxRows && lines.Next(line);)
         types.emplace_back(line);
+    if (text.IsWhole() && types.empty())
+        faults.push_back("ShopgeneratorShops.dat: " + ReasonText({}));
     if (!lines.AtEnd())
         faults.emplace_back("ShopgeneratorShops.dat: Es werden nur die ersten 32767 Shoparten "
                             "gezeigt.");
@@ -39,8 +41,9 @@ IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
     return IniFile(ReadConfigFile(files, folders, "ShopgeneratorConfig.dat", faults).bytes);
 }
 
-std::int16_t ReadWareCount(const IniFile& config, std::string_view shopType) {
-    return RoundToInt16(ReadGermanNumber(config.Value(shopType, "WareCount")).value_or(0));
+std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType) {
+    const auto number = ReadGermanNumber(config.Value(shopType, "WareCount"));
+    return number ? std::optional(RoundToInt16(*number)) : std::nullopt;
 }
 
 std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n) {

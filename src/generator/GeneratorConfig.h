@@ -6,6 +6,7 @@
 #include "base/Variablen.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,7 @@
 namespace emporium {
 
 /// The shop types in file order, an empty line as an empty type, at most MaxRows of them. Adds to
-/// `faults` what could not be read; a missing file gives no types.
+/// `faults` what could not be read, or that the file is empty; a missing one gives no types.
 std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
                                        std::vector<std::string>& faults);
 
@@ -22,9 +23,9 @@ std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& fo
 IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
                             std::vector<std::string>& faults);
 
-/// How many categories the type names: 0 for a text that is no number, the nearest limit for one
-/// beyond 16 bits.
-std::int16_t ReadWareCount(const IniFile& config, std::string_view shopType);
+/// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing if
+/// the file does not tell it or tells no number.
+std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType);
 
 /// The category of number n, from 1, empty if the type names none.
 std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n);

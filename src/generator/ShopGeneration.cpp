@@ -26,7 +26,8 @@ bool PassesRarity(std::string_view nameLine, int quality, const Die& RollDice) {
 }
 
 // The distance from the nearest region where the ware is made.
-int NearestDistance(std::string_view availability, std::string_view region, RegionTable& regions) {
+int NearestDistance(std::string_view availability, std::string_view region,
+                    const RegionTable& regions) {
     if (availability.find(region) != availability.npos)
         return 0;
     // Three characters a code, rounded; a string of another form may have fewer entries.
@@ -40,8 +41,8 @@ int NearestDistance(std::string_view availability, std::string_view region, Regi
     return smallest;
 }
 
-bool PassesRegion(std::string_view availability, std::string_view region, RegionTable& regions,
-                  const Die& RollDice) {
+bool PassesRegion(std::string_view availability, std::string_view region,
+                  const RegionTable& regions, const Die& RollDice) {
     if (availability.empty())
         return false;
     return RollDice(20) < 20 - 3 * NearestDistance(availability, region, regions);
@@ -49,9 +50,8 @@ bool PassesRegion(std::string_view availability, std::string_view region, Region
 
 // Draws from one category into the shop, without regard to the list's order. False if the shop is
 // full.
-bool DrawCategory(std::string_view category, const ShopWishes& wishes, RegionTable& regions,
+bool DrawCategory(RecordReader& reader, const ShopWishes& wishes, const RegionTable& regions,
                   const Die& RollDice, ShopEditor& shop) {
-    RecordReader reader(category);
     for (RecordView record; reader.Next(record);) {
         if (!DrawRecord(record, wishes, regions, RollDice))
             continue;
@@ -63,25 +63,32 @@ bool DrawCategory(std::string_view category, const ShopWishes& wishes, RegionTab
     return true;
 }
 
-void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, RegionTable& regions,
+void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const RegionTable& regions,
               const Platform& platform, const Folders& folders, std::vector<std::string>& faults) {
     const std::string shopType = dialog.cmbShopBeruf.Text();
     const std::string region = dialog.cmbShopRegion.Text();
     const ShopWishes wishes{dialog.cmbShopQualität.Text().front() - '0',
                             dialog.chkShopRegion.ticked, region};
     const IniFile config = ReadGeneratorConfig(platform.files, folders, faults);
-    const std::int16_t count = ReadWareCount(config, shopType);
-    for (int n = 1; n <= count; ++n) {
+    const auto count = ReadWareCount(config, shopType);
+    if (!count && faults.empty())
+        faults.emplace_back("ShopgeneratorConfig.dat: Zu dieser Shopart fehlt die Zeile WareCount, "
+                            "oder sie nennt keine Zahl.");
+    for (int n = 1; n <= count.value_or(0); ++n) {
         const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
         if (!IsPlainName(name) || !FileExists(CategoryPath(folders, name)))
             continue;
         const FileText category = platform.files.read(CategoryPath(folders, name));
         if (category.state == FileText::State::Unreadable)
             faults.push_back(name + ".dat: " + ReasonText(category.reason));
-        if (!DrawCategory(category.bytes, wishes, regions, platform.RollDice, shop)) {
+        RecordReader reader(category.bytes);
+        if (!DrawCategory(reader, wishes, regions, platform.RollDice, shop)) {
             faults.emplace_back(ShopFullText);
             return;
         }
+        if (reader.CutOff())
+            faults.push_back(name +
+                             std::string(".dat: Der letzte Datensatz ist nicht vollständig."_ansi));
     }
 }
 
@@ -97,14 +104,14 @@ void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
 
 } // namespace
 
-bool DrawRecord(const RecordView& record, const ShopWishes& wishes, RegionTable& regions,
+bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const RegionTable& regions,
                 const Die& RollDice) {
     return PassesRarity(record[NameField], wishes.quality, RollDice) &&
            (!wishes.regionCounts ||
             PassesRegion(record[AvailabilityField], wishes.region, regions, RollDice));
 }
 
-void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, RegionTable& regions,
+void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const RegionTable& regions,
                   const Platform& platform, const Folders& folders) {
     platform.SetWaitPointer(true);
     std::vector<std::string> faults;

@@ -60,27 +60,6 @@ std::size_t IndexOf(std::string_view code) {
     return found == PackedCodes.end() ? 0 : static_cast<std::size_t>(found - PackedCodes.begin());
 }
 
-bool RelaxOnce(RegionTable& table) {
-    auto& distances = table.RegionDistances;
-    bool changed = false;
-    for (std::size_t via = 1; via <= RegionCount; ++via)
-        for (std::size_t from = 1; from <= RegionCount; ++from)
-            for (std::size_t to = 1; to <= RegionCount; ++to) {
-                const int sum = distances[from][via] + distances[via][to];
-                if (sum < distances[from][to]) {
-                    distances[from][to] = static_cast<std::int16_t>(sum);
-                    changed = true;
-                }
-            }
-    return changed;
-}
-
-void Relax(RegionTable& table) {
-    constexpr int passes = 3; // the natural logarithm of the number of regions, rounded
-    for (int pass = 0; pass < passes && !table.settled; ++pass)
-        table.settled = !RelaxOnce(table);
-}
-
 } // namespace
 
 RegionTable RegionInit() {
@@ -94,9 +73,8 @@ RegionTable RegionInit() {
     return table;
 }
 
-std::optional<std::int16_t> RegionDistance(RegionTable& table, std::string_view first,
+std::optional<std::int16_t> RegionDistance(const RegionTable& table, std::string_view first,
                                            std::string_view second) {
-    Relax(table);
     const std::size_t i = IndexOf(first);
     const std::size_t j = IndexOf(second);
     if (i == 0 || j == 0)

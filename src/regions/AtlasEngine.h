@@ -24,15 +24,14 @@ inline constexpr std::array<std::string_view, RegionCount + 1> RegionCodes = {
 /// Distances between regions, both indexes 1 to 20 in table order. Not symmetric.
 struct RegionTable {
     std::array<std::array<std::int16_t, RegionCount + 1>, RegionCount + 1> RegionDistances{};
-    bool settled = false; // a pass of the relaxation has changed nothing
 };
 
 /// The table as the world has it: neighbours at distance 1, everything else at 2.
 RegionTable RegionInit();
 
 /// The distance from one region to another, nothing if either code is unknown. Codes are compared
-/// exactly. Relaxes the table first, which settles it.
-std::optional<std::int16_t> RegionDistance(RegionTable& table, std::string_view first,
+/// exactly.
+std::optional<std::int16_t> RegionDistance(const RegionTable& table, std::string_view first,
                                            std::string_view second);
 
 /// The long name of a region, empty if the region file does not tell it.

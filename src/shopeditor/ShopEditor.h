@@ -17,15 +17,15 @@ namespace emporium {
 struct ShopRow {
     std::string Text;   // the name, with a quantity once one was given
     std::string Weight; // in Unzen, without a unit
-    std::string Price;  // a number and the unit letter
+    std::string Price;  // a number and the unit
 
     std::int16_t ShopBasePrice = 0; // whole, without unit and price level
+    std::string Unit;               // the letter of the price, empty if the item has no price
     std::string ShopItemLine;       // the name with the Wert digit behind it
     std::string ShopAvailability;
 };
 
-/// Columns of the shop list; the user does not see the weight.
-enum ShopColumn { ShopTextColumn, ShopWeightColumn, ShopPriceColumn, ShopColumnCount };
+enum ShopColumn { ShopTextColumn, ShopPriceColumn };
 
 struct ShopListView {
     std::deque<std::unique_ptr<ShopRow>> rows; // in the order of the list

@@ -31,14 +31,16 @@ Rows::iterator SortedPlace(ShopListView& list, const ShopRow& row) {
     return std::upper_bound(list.rows.begin(), list.rows.end(), row, before);
 }
 
-// Has a changed row take its sorted place.
-void PlaceCurrentRow(ShopListView& list) {
+// Has a row whose text changed in a column take its sorted place.
+void PlaceCurrentRow(ShopListView& list, int column) {
+    ++list.revision;
+    if (list.sort.column != column)
+        return;
     auto row = std::move(list.rows[static_cast<std::size_t>(list.current)]);
     list.rows.erase(list.rows.begin() + list.current);
     const auto place = SortedPlace(list, *row);
     list.current = static_cast<int>(place - list.rows.begin());
     list.rows.insert(place, std::move(row));
-    ++list.revision;
 }
 
 } // namespace
@@ -50,6 +52,7 @@ std::unique_ptr<ShopRow> MakeShopRow(std::string_view nameLine, std::string_view
     row->Weight = weight;
     row->Price = price;
     row->ShopBasePrice = RoundToInt16(ReadGermanNumber(WithoutLast(price)).value_or(0));
+    row->Unit = price.substr(WithoutLast(price).size());
     row->ShopItemLine = nameLine;
     row->ShopAvailability = availability;
     return row;
@@ -101,7 +104,7 @@ void SetShopRowQuantity(ShopEditor& shop, const Platform& platform) {
     if (answer.empty() || !row)
         return;
     row->Text = std::string(WithoutLast(row->ShopItemLine)) + " (x" + answer + ")";
-    PlaceCurrentRow(shop.lvLaden);
+    PlaceCurrentRow(shop.lvLaden, ShopTextColumn);
 }
 
 void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
@@ -111,8 +114,8 @@ void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
     ShopRow* row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
-    row->Price = answer + row->Price.substr(WithoutLast(row->Price).size());
-    PlaceCurrentRow(shop.lvLaden);
+    row->Price = answer + row->Unit;
+    PlaceCurrentRow(shop.lvLaden, ShopPriceColumn);
 }
 
 void ChooseShopRow(ShopEditor& shop, int row) {
@@ -159,14 +162,7 @@ void ArrangeShopList(ShopEditor& shop) {
 }
 
 std::string_view ShopCell(const ShopRow& row, int column) {
-    switch (column) {
-    case ShopWeightColumn:
-        return row.Weight;
-    case ShopPriceColumn:
-        return row.Price;
-    default:
-        return row.Text;
-    }
+    return column == ShopPriceColumn ? row.Price : row.Text;
 }
 
 } // namespace emporium

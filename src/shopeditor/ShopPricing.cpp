@@ -44,10 +44,8 @@ void ApplyPriceLevel(ShopEditor& shop) {
     const int level = shop.cmbShopPreise.Selection();
     if (level < 0)
         return;
-    for (const auto& row : shop.lvLaden.rows) {
-        const std::string unit = row->Price.substr(WithoutLast(row->Price).size());
-        row->Price = LevelPriceText(row->ShopBasePrice, level) + unit;
-    }
+    for (const auto& row : shop.lvLaden.rows)
+        row->Price = LevelPriceText(row->ShopBasePrice, level) + row->Unit;
     if (shop.lvLaden.sort.column == ShopPriceColumn)
         ArrangeShopList(shop);
     ++shop.lvLaden.revision;

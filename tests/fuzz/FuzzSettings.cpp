@@ -40,7 +40,7 @@ void CheckFirst(const std::string& text, const std::string& section, const std::
 }
 
 void CheckWareCount(const IniFile& settings, const std::string& section) {
-    const int count = ReadWareCount(settings, section);
+    const int count = ReadWareCount(settings, section).value_or(0);
     Expect(count == 0 || !settings.Value(section, "WareCount").empty(), "no count from nothing");
 }
 

@@ -76,7 +76,6 @@ TEST_F(GenerateShops, EachRecordHasItsOwnThrowsInFileOrder) {
 TEST_F(GenerateShops, OddConfigurationsDrawWhatTheyName) {
     // What stands in the section, and how often the category is drawn from.
     const std::vector<std::pair<std::string_view, int>> cases = {
-        {"Ware1=Kleidung", 0},
         {"WareCount=-1;Ware1=Kleidung", 0},
         {"WareCount=99999;Ware1=Kleidung", 1},
         {"WareCount=2;Ware1=Fehlt;Ware2=Kleidung", 1},
@@ -85,8 +84,7 @@ TEST_F(GenerateShops, OddConfigurationsDrawWhatTheyName) {
         {"WareCount=2;Ware1=Kleidung;Ware2=Kleidung", 2},
         {"WareCount=1;Ware1=../Emporium/Kleidung", 0},
         {"WareCount=1;Ware1=K*", 0},
-        {"WareCount=1;Ware1=", 0},
-        {"[Schmied];WareCount=1;Ware1=Kleidung", 0}};
+        {"WareCount=1;Ware1=", 0}};
     program.Write("Emporium/.dat", Item("Falle1"));
     for (const auto& [section, times] : cases) {
         std::string lines(section);
@@ -99,7 +97,7 @@ TEST_F(GenerateShops, OddConfigurationsDrawWhatTheyName) {
     }
 }
 
-TEST_F(GenerateShops, FilesThatCannotBeReadAreNamed) {
+TEST_F(GenerateShops, WhatIsWrongWithAFileIsTold) {
     Configure({"[Krämer]"_ansi, "WareCount=2", "Ware1=Kleidung", "Ware2=Waffen"});
     program.Write("Emporium/Waffen.dat", Item("Axt1"));
     for (const auto& [name, wares] : {std::pair<std::string, std::string>{"Kleidung.dat", "Axt "},
@@ -113,6 +111,18 @@ TEST_F(GenerateShops, FilesThatCannotBeReadAreNamed) {
         script.ExpectMessage("Nicht alles ist gelungen:\n\n" + name + ": Beim ");
         EXPECT_EQ(Wares(), wares);
     }
+    script.platform.files = SystemFiles();
+    program.Write("Emporium/Kleidung.dat", Item("Hemd1") + "Rest1\r\n");
+    script.ExpectMessage("Nicht alles ist gelungen:\n\nKleidung.dat: Der letzte Datensatz");
+    EXPECT_EQ(Wares(), "Axt Hemd ");
+    for (const auto lines : {"Ware1=Kleidung", "WareCount=drei", "[Schmied]\nWareCount=1"}) {
+        Configure({"[Krämer]"_ansi, lines});
+        script.ExpectMessage("Nicht alles ist gelungen:\n\nShopgeneratorConfig.dat: Zu dieser ");
+        EXPECT_EQ(Wares(), "");
+    }
+    program.Write("Emporium/ShopgeneratorShops.dat", "");
+    script.ExpectMessage("Nicht alles ist gelungen:\n\nShopgeneratorShops.dat: Die Datei ist leer");
+    OpenGenerator(dialog, shop, script.platform, program.folders);
 }
 
 TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {

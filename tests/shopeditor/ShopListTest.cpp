@@ -72,6 +72,8 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
     for (const char* regions : {"BO|", "GA|", "PU|"})
         Add("Schwert 23", "7D", regions);
     ChooseShopRow(shop, 1);
+    SetPrice("7");
+    EXPECT_EQ(shop.lvLaden.current, 1) << "a row whose sorted text stays has to stay as well";
     for (const auto& [answer, text] : std::vector<std::pair<const char*, const char*>>{
              {"3", "(x3)"}, {"12 oder mehr", "(x12 oder mehr)"}, {"", "(x12 oder mehr)"}}) {
         script.ExpectText("Bitte gebt eine Zahl an, wie oft der Gegenstand im Shop vorhanden sein "
@@ -87,6 +89,19 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
     EXPECT_EQ(shop.lvLaden.rows[2]->ShopAvailability, "GA|");
     ChoosePriceLevel(shop, 3);
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 8,4D");
+}
+
+TEST_F(ShopList, AWareWithoutAPriceNeverTakesADigitForItsUnit) {
+    Add("Kiesel1", "");
+    ChooseShopRow(shop, 0);
+    for (const std::string price : {"5", "6"}) {
+        SetPrice(price);
+        EXPECT_EQ(Current(), "Kiesel " + price);
+    }
+    for (const int level : {0, 1}) {
+        ChoosePriceLevel(shop, level);
+        EXPECT_EQ(Current(), "Kiesel 0");
+    }
 }
 
 // The price in whole hundredths, written as decimal text.

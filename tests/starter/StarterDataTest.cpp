@@ -238,7 +238,7 @@ TEST_F(StarterData, EveryShopTypeSellsCategoriesThatExist) {
     for (const std::string& type : types) {
         ExpectNew(type, "ShopgeneratorShops.dat");
         heads.insert("[" + type + "]");
-        const std::int16_t count = ReadWareCount(config, type);
+        const std::int16_t count = ReadWareCount(config, type).value_or(0);
         EXPECT_GE(count, 1) << Shown(type);
         for (std::int16_t n = 1; n <= count; ++n) {
             const std::string category = ReadWareCategory(config, type, n);
