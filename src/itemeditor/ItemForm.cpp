@@ -80,13 +80,14 @@ bool FilterItemKey(ItemText field, char character, std::string_view text, std::s
 }
 
 std::string FilterItemPaste(ItemText field, std::string_view pasted, std::string text,
-                            std::size_t caret) {
+                            std::size_t caret, std::size_t replaced) {
     std::string entered;
     for (const char character : pasted) {
         if (!FilterItemKey(field, character, text, caret))
             continue;
         entered += character;
-        text.insert(caret++, 1, character);
+        text.replace(caret++, replaced, 1, character);
+        replaced = 0;
     }
     return entered;
 }

@@ -34,9 +34,10 @@ void UpdateSaveAvailability(ItemEditor& editor);
 /// field's text before, `caret` the place of the caret or the start of the selection, from 0.
 bool FilterItemKey(ItemText field, char character, std::string_view text, std::size_t caret);
 
-/// What of a pasted text enters the field, one character after the other.
+/// What of a pasted text enters the field, one character after the other; the first one replaces
+/// the `replaced` characters from the caret on.
 std::string FilterItemPaste(ItemText field, std::string_view pasted, std::string text,
-                            std::size_t caret);
+                            std::size_t caret, std::size_t replaced);
 
 /// The record that the form holds. Price and name line lack their closing mark as long as no unit
 /// or Wert is chosen.

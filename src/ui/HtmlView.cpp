@@ -9,7 +9,9 @@
 #include <QTextDocument>
 #include <QTimer>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace emporium::ui {
 
@@ -73,6 +75,17 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
     painter.restore();
 }
 
+// The numbers of the pages that were asked for in the dialog, in the order of printing.
+std::vector<int> PagesToPrint(const QPrinter& printer, int count) {
+    const int last = printer.toPage() > 0 ? std::min(printer.toPage(), count) : count;
+    std::vector<int> pages;
+    for (int number = std::clamp(printer.fromPage(), 1, last); number <= last; ++number)
+        pages.push_back(number);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::reverse(pages.begin(), pages.end());
+    return pages;
+}
+
 } // namespace
 
 HtmlView::HtmlView(QWidget* parent) : QWidget(parent), page_(new PageDocument(this)) {}
@@ -93,10 +106,10 @@ bool HtmlView::PrintTo(QPrinter& printer) {
     const double scale = printer.logicalDpiX() / LayoutDpi;
     painter.scale(scale, scale);
     FitToPaper(*page_, printer);
-    const int count = page_->pageCount();
-    for (int number = 1; number <= count; ++number) {
+    const auto numbers = PagesToPrint(printer, page_->pageCount());
+    for (const int number : numbers) {
         DrawPage(painter, *page_, number);
-        if (number < count && !printer.newPage())
+        if (number != numbers.back() && !printer.newPage())
             return false;
     }
     const auto state = printer.printerState();

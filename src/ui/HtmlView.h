@@ -20,9 +20,12 @@ public:
     /// can't be read is never reported.
     void Navigate(const std::filesystem::path& file);
 
-    /// Prints the page as text, with page numbers. False if the printer, or the file that it
-    /// prints to, failed.
+    /// Prints the pages that the printer was told, as text and with page numbers. False if the
+    /// printer, or the file that it prints to, failed.
     bool PrintTo(QPrinter& printer);
+
+    /// How many pages it takes on A4.
+    int PageCount() const { return page_->pageCount(); }
 
     QString Title() const { return page_->metaInformation(QTextDocument::DocumentTitle); }
 

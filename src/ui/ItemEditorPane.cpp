@@ -136,10 +136,10 @@ QWidget* ItemEditorPane::AddPage(const QString& caption) {
 LineField* ItemEditorPane::BuildText(QWidget* parent, std::size_t index) {
     auto& items = session_.state.items;
     const auto field = static_cast<ItemText>(index);
-    auto* text = new LineField(
-        parent, [field](std::string_view entered, const std::string& held, std::size_t place) {
-            return FilterItemPaste(field, entered, held, place);
-        });
+    auto* text = new LineField(parent, [field](std::string_view entered, const std::string& held,
+                                               std::size_t place, std::size_t replaced) {
+        return FilterItemPaste(field, entered, held, place, replaced);
+    });
     Named(text, QString("txtItem%1").arg(index));
     text->setAccessibleName(parent->accessibleName());
     session_.mirror.Bind(text, items.txtItem[index]);

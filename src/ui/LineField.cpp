@@ -6,6 +6,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <limits>
 
 namespace emporium::ui {
 
@@ -40,7 +41,8 @@ public:
             return Acceptable;
         const auto [start, end] = Compare(field_.held_, input);
         const QString inserted = input.mid(start, input.size() - start - end);
-        const QString admitted = ToQString(field_.Admit(inserted, field_.held_, start));
+        const QString admitted =
+            ToQString(field_.Admit(inserted, start, field_.held_.size() - start - end));
         if (admitted == inserted)
             return Acceptable;
         // Where nothing enters, what would have been replaced stays too.
@@ -72,6 +74,7 @@ public:
 
 LineField::LineField(QWidget* parent, InputFilter filter)
     : QLineEdit(parent), filter_(std::move(filter)) {
+    setMaxLength(std::numeric_limits<int>::max()); // or a long stored text would lose its end
     setValidator(new LineFieldFilter(*this));
     connect(this, &QLineEdit::textChanged, this, [this](const QString& now) {
         held_ = now;
@@ -97,14 +100,16 @@ void LineField::keyPressEvent(QKeyEvent* event) {
     const auto modifiers = event->modifiers();
     const bool command = (modifiers & Qt::ControlModifier) && !(modifiers & Qt::AltModifier);
     const bool printable = !command && !typed.isEmpty() && typed[0].isPrint();
-    if (printable && Admit(typed, held_, place).empty())
+    if (printable && Admit(typed, place, selectedText().size()).empty())
         return; // the selection stays as well
     QLineEdit::keyPressEvent(event);
 }
 
-std::string LineField::Admit(const QString& entered, const QString& held, qsizetype place) const {
+std::string LineField::Admit(const QString& entered, qsizetype place, qsizetype replaced) const {
     const std::string clean = CleanInput(entered);
-    return filter_ ? filter_(clean, ToAnsi(held), static_cast<std::size_t>(place)) : clean;
+    return filter_ ? filter_(clean, ToAnsi(held_), static_cast<std::size_t>(place),
+                             static_cast<std::size_t>(replaced))
+                   : clean;
 }
 
 void GuardInput(QLineEdit& field) {

@@ -10,9 +10,10 @@
 
 namespace emporium::ui {
 
-/// What of a text enters a field: the text, what the field holds, and the place, from 0.
+/// What of a text enters a field: the text, what the field holds, the place, from 0, and how many
+/// characters from there it would replace.
 using InputFilter = std::function<std::string(std::string_view entered, const std::string& held,
-                                              std::size_t place)>;
+                                              std::size_t place, std::size_t replaced)>;
 
 class LineField : public QLineEdit {
     Q_OBJECT
@@ -34,7 +35,7 @@ protected:
 private:
     friend class LineFieldFilter;
 
-    std::string Admit(const QString& text, const QString& held, qsizetype place) const;
+    std::string Admit(const QString& entered, qsizetype place, qsizetype replaced) const;
 
     InputFilter filter_;
     QString held_;

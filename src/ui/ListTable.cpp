@@ -86,7 +86,8 @@ void ListTable::Mirror(unsigned revision, int chosenRow, int sortColumn, bool de
         verticalScrollBar()->setValue(scrolled);
     }
     const QModelIndex chosen = model_->index(chosenRow, 0);
-    if (chosen.row() != currentIndex().row()) {
+    if (chosen.row() != currentIndex().row() ||
+        chosen.isValid() != selectionModel()->hasSelection()) {
         setCurrentIndex(chosen);
         if (!chosen.isValid())
             clearSelection();
@@ -100,10 +101,15 @@ void ListTable::Mirror(unsigned revision, int chosenRow, int sortColumn, bool de
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Delete)
+    const int key = event->key();
+    if (key == Qt::Key_Delete) {
         emit deletePressed();
-    else
-        QTreeView::keyPressEvent(event);
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+    const bool picks = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    if (picks && currentIndex().isValid())
+        emit rowChosen(currentIndex().row());
 }
 
 void ListTable::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -113,7 +119,8 @@ void ListTable::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ListTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeView::currentChanged(current, previous);
-    if (!mirroring_ && current.isValid() && current.row() != previous.row())
+    // A list that gets the focus makes a row current without picking it.
+    if (!mirroring_ && selectionModel()->isSelected(current) && current.row() != previous.row())
         emit rowChosen(current.row());
 }
 

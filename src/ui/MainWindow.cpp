@@ -54,6 +54,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     platform.ShowGeneratorDialog = [this] {
         session_.mirror.Update();
         MoveToCentre(*generator_);
+        generator_->findChild<QWidget*>("cmbShopBeruf")->setFocus(); // wherever it was last time
         generator_->exec();
     };
     platform.FocusItemName = [this] { itemEditor_->FocusName(); };
@@ -111,9 +112,20 @@ const QImage& MainWindow::BackgroundOf(Mode mode) const {
 
 void MainWindow::MirrorWindow() {
     setWindowTitle(ToQString(session_.state.caption));
-    controls_->setEnabled(!session_.state.print.busy);
+    SetBusy(session_.state.print.busy);
     if (session_.state.mode != backgroundMode_)
         update();
+}
+
+// Disabled controls lose the focus, which has to be there again afterwards.
+void MainWindow::SetBusy(bool busy) {
+    if (busy != controls_->isEnabled())
+        return;
+    if (busy)
+        focused_ = focusWidget();
+    controls_->setEnabled(!busy);
+    if (!busy && focused_)
+        focused_->setFocus();
 }
 
 void MainWindow::paintEvent(QPaintEvent*) {

@@ -8,6 +8,7 @@
 #include "ui/ShopEditorPane.h"
 
 #include <QPixmap>
+#include <QPointer>
 
 #include <filesystem>
 
@@ -35,13 +36,15 @@ private:
     void LoadPictures();
     const QImage& BackgroundOf(Mode mode) const;
     void MirrorWindow();
+    void SetBusy(bool busy);
 
     Session session_;
     Dice dice_;
     bool started_ = false;
     bool closed_ = false;
 
-    QWidget* controls_; // everything that takes input
+    QWidget* controls_;         // everything that takes input
+    QPointer<QWidget> focused_; // before they were disabled
     HtmlView* browser_;
     ItemEditorPane* itemEditor_;
     ShopEditorPane* shopEditor_;

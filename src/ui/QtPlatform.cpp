@@ -119,6 +119,7 @@ bool PrintPage(QWidget& window, HtmlView& page) {
     }
     QPrintDialog dialog(&printer, &window);
     dialog.setObjectName("PrintDialog");
+    dialog.setMinMax(1, page.PageCount());
     if (dialog.exec() != QDialog::Accepted)
         return true;
     SetWaitPointer(true);

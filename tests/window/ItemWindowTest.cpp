@@ -93,6 +93,20 @@ TEST_F(WindowTest, ALetterJumpsToItsRow) {
     EXPECT_EQ(FieldText(*driver, "txtItem0"), "Ahle");
 }
 
+// The list shows a first row as chosen while the form is still empty.
+TEST_F(WindowTest, TheChosenRowOpensByKeyAndStaysHighlighted) {
+    Open();
+    driver->Pick("cmbKategorien", "Werkzeug");
+    auto* list = driver->Find<ui::ListTable>("lvGegenstände");
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(FieldText(*driver, "txtItem0"), "Zange");
+    const QRect row = list->visualRect(list->currentIndex());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row.center());
+    EXPECT_TRUE(list->selectionModel()->hasSelection());
+    QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(list->selectionModel()->hasSelection());
+}
+
 TEST_F(WindowTest, CategoriesAreCreatedAndDeleted) {
     Open();
     Enter("Bitte gebt der Kategorie einen Namen.", "Öle");
@@ -141,6 +155,20 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
         QApplication::sendEvent(field, &event);
         EXPECT_EQ(field->text(), row.after) << "composed: " << row.what;
     }
+}
+
+TEST_F(WindowTest, APasteReplacesTheSelectionAndMayBeLong) {
+    Open();
+    const auto paste = [this](const char* name, const QString& text) {
+        auto* field = driver->Find<QLineEdit>(name);
+        field->selectAll();
+        QApplication::clipboard()->setText(text);
+        field->paste();
+        return field->text();
+    };
+    for (const QString price : {"1,5", "2,75", "-2,5"})
+        EXPECT_EQ(paste("txtItem2", price), price);
+    EXPECT_EQ(paste("txtItem3", QString(40000, 'x')).size(), 40000);
 }
 
 TEST_F(WindowTest, ADroppedKeyLeavesTheSelection) {

@@ -1,6 +1,7 @@
 #include "window/WindowFixture.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QPrintDialog>
 #include <QTest>
 
@@ -65,17 +66,37 @@ TEST_F(ShopWindowTest, DeleteWorksInTheListOnly) {
     EXPECT_FALSE(driver->Find("cmbShopPreise")->isEnabled());
 }
 
+TEST_F(ShopWindowTest, NothingIsRemovedThatWasNotPicked) {
+    OpenShop();
+    AddWares();
+    auto* list = driver->Find<ui::ListTable>("lvLaden");
+    list->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(list->model()->rowCount(), 2);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(driver->Cell("lvLaden", 0, 0), "Zange");
+}
+
 TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
     OpenShop();
     AddWares();
-    Answer("Ihr arbeitet momentan an einem Shop, beim Start des Generators werden sämtliche Werte "
-           "verworfen ! Wollt ihr den Generator wirklich starten ?",
-           "Ja");
+    const QString question =
+        "Ihr arbeitet momentan an einem Shop, beim Start des Generators werden "
+        "sämtliche Werte verworfen ! Wollt ihr den Generator wirklich starten ?";
+    Answer(question, "Ja");
+    driver->Expect([](QWidget& dialog) {
+        WindowDriver::Find(&dialog, "cmbShopQualität")->setFocus();
+        dialog.close();
+    });
+    driver->Click("cmdShopGenerator");
+    QTest::qWait(50);
     driver->Expect([this](QWidget& dialog) {
         const auto pick = [&dialog](const char* name, const QString& entry) {
             WindowDriver::Pick(WindowDriver::Find<QComboBox>(&dialog, name), entry);
         };
         EXPECT_EQ(driver->Find<ui::ListTable>("lvLaden")->model()->rowCount(), 0);
+        EXPECT_EQ(dialog.focusWidget(), WindowDriver::Find(&dialog, "cmbShopBeruf"));
         pick("cmbShopBeruf", "Schmied");
         pick("cmbShopPreise", "Teuer");
         auto* start = WindowDriver::Find(&dialog, "cmdStart");
@@ -124,19 +145,41 @@ protected:
             GTEST_SKIP() << "the print dialog is the system's own, which only its user can answer";
     }
 
-    // The dialog comes first; `fault` begins the box that follows it, if there is one.
-    void PrintTo(const QString& file, const QString& fault = {}) {
-        driver->Expect([file](QWidget& widget) {
+    // The dialog comes first; `fault` begins the box that follows it, if there is one. Prints one
+    // page, or all for 0.
+    void PrintTo(const QString& file, const QString& fault = {}, int page = 0) {
+        driver->Expect([file, page](QWidget& widget) {
             auto& dialog = dynamic_cast<QPrintDialog&>(widget);
             dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
             dialog.printer()->setOutputFileName(file);
+            dialog.printer()->setFromTo(page, page);
             dialog.done(QDialog::Accepted);
         });
         if (!fault.isEmpty())
             Dismiss(fault);
         driver->Click("cmdShopDrucken");
     }
+
+    std::string Pdf(const char* name) const {
+        std::ifstream in(program.root / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
 };
+
+TEST_F(PrintTest, OnePageCanBePrintedAloneAndTheKeyboardStaysWhereItWas) {
+    OpenShop();
+    QApplication::clipboard()->setText(QString("Laden ").repeated(1000));
+    driver->Find<QLineEdit>("txtName")->paste();
+    const auto pages = [this](int page) {
+        PrintTo(Output("shop.pdf"), {}, page);
+        EXPECT_EQ(window->focusWidget(), driver->Find("cmdShopDrucken"));
+        const std::string pdf = Pdf("shop.pdf");
+        const QByteArray bytes(pdf.data(), static_cast<qsizetype>(pdf.size()));
+        return bytes.count("/Parent ");
+    };
+    EXPECT_GE(pages(0), 3);
+    EXPECT_EQ(pages(2), 1);
+}
 
 // Names are written as they are; what looks like HTML must not reach for files or the network.
 TEST_F(PrintTest, APrintIsTextAndLoadsNothing) {
@@ -145,8 +188,7 @@ TEST_F(PrintTest, APrintIsTextAndLoadsNothing) {
     ASSERT_TRUE(QImage(1234, 9, QImage::Format_RGB32).save(Output("bild.png")));
     driver->Type("txtName", "<img src='file://" + Output("bild.png") + "'>Laden");
     PrintTo(Output("shop.pdf"));
-    std::ifstream in(program.root / "shop.pdf", std::ios::binary);
-    const std::string pdf{std::istreambuf_iterator<char>(in), {}};
+    const std::string pdf = Pdf("shop.pdf");
     EXPECT_TRUE(pdf.starts_with("%PDF"));
     EXPECT_NE(pdf.find("/ToUnicode"), pdf.npos) << "no text that can be selected";
     EXPECT_EQ(pdf.find("/Width 1234"), pdf.npos) << "the picture was loaded";
