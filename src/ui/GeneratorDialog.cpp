@@ -1,10 +1,10 @@
 #include "ui/GeneratorDialog.h"
 
 #include "generator/ShopGeneration.h"
+#include "ui/Build.h"
 #include "ui/Text.h"
 
 #include <QCheckBox>
-#include <QLabel>
 
 namespace emporium::ui {
 
@@ -19,17 +19,16 @@ GeneratorDialog::GeneratorDialog(QWidget* window, Session& session)
     QPalette grey = palette();
     grey.setColor(QPalette::Window, CaptionFrame::Grey);
     setPalette(grey);
-    const auto choice = [&](const char* frame, const QString& caption, int top, const char* name,
-                            const ChoiceList& state, void (*choose)(frmEmporiumGenerator&, int)) {
-        auto* box = BuildChoice(BuildFrame(frame, caption, top, 615), name, state, 240);
-        connect(box, &QComboBox::activated, this, [this, &dialog, choose](int index) {
-            session_.Do([&] { choose(dialog, index); });
-        });
+    const auto build = [&](const char* frame, const QString& caption, int top, const char* name,
+                           const ChoiceList& state, void (*choose)(frmEmporiumGenerator&, int)) {
+        Place(BuildChoice(session_, BuildFrame(frame, caption, top, 615), name, caption, state,
+                          [&dialog, choose](int index) { choose(dialog, index); }),
+              120, 240, 3735, 315);
     };
-    choice("Frame1", "Art des Shops", 120, "cmbShopBeruf", dialog.cmbShopBeruf, ChooseShopType);
-    choice("Frame3", "Preise", 960, "cmbShopPreise", dialog.cmbShopPreise, ChooseGeneratorPrices);
-    choice("Frame2", "Qualität", 1800, "cmbShopQualität", dialog.cmbShopQualität,
-           ChooseGeneratorQuality);
+    build("Frame1", "Art des Shops", 120, "cmbShopBeruf", dialog.cmbShopBeruf, ChooseShopType);
+    build("Frame3", "Preise", 960, "cmbShopPreise", dialog.cmbShopPreise, ChooseGeneratorPrices);
+    build("Frame2", "Qualität", 1800, "cmbShopQualität", dialog.cmbShopQualität,
+          ChooseGeneratorQuality);
     BuildRegion();
 
     auto* start = Place(Named(new QPushButton("Shop berechnen lassen", this), "cmdStart"), 0, 4440,
@@ -54,14 +53,6 @@ CaptionFrame* GeneratorDialog::BuildFrame(const char* name, const QString& capti
     return Place(Named(frame, name), 120, top, 3975, height);
 }
 
-ChoiceBox* GeneratorDialog::BuildChoice(CaptionFrame* frame, const char* name,
-                                        const ChoiceList& state, int top) {
-    auto* box = Place(Named(new ChoiceBox(frame), name), 120, top, 3735, 315);
-    box->setAccessibleName(frame->accessibleName());
-    session_.mirror.Bind(box, state);
-    return box;
-}
-
 void GeneratorDialog::BuildRegion() {
     auto& state = session_.state;
     auto& dialog = state.generator;
@@ -71,16 +62,12 @@ void GeneratorDialog::BuildRegion() {
     session_.mirror.Bind(counts, dialog.chkShopRegion);
     connect(counts, &QCheckBox::clicked, this,
             [this, &dialog](bool ticked) { session_.Do([&] { TickShopRegion(dialog, ticked); }); });
-    auto* region = BuildChoice(frame, "cmbShopRegion", dialog.cmbShopRegion, 600);
-    connect(region, &QComboBox::activated, this, [&](int index) {
-        session_.Do(
-            [&] { ChooseGeneratorRegion(dialog, session_.platform, state.folders, index); });
-    });
-    auto* name = Place(Named(new QLabel(frame), "lblRegionen"), 120, 960, 3735, 495);
-    name->setTextFormat(Qt::PlainText);
-    name->setWordWrap(true);
-    name->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    session_.mirror.Bind(name, dialog.lblRegionen);
+    Place(BuildChoice(session_, frame, "cmbShopRegion", "Region", dialog.cmbShopRegion,
+                      [&](int index) {
+                          ChooseGeneratorRegion(dialog, session_.platform, state.folders, index);
+                      }),
+          120, 600, 3735, 315);
+    Place(BuildRegionName(session_, frame, dialog.lblRegionen), 120, 960, 3735, 495);
 }
 
 } // namespace emporium::ui

@@ -15,7 +15,6 @@ public:
     GeneratorDialog(QWidget* window, Session& session);
 
 private:
-    ChoiceBox* BuildChoice(CaptionFrame* frame, const char* name, const ChoiceList& state, int top);
     CaptionFrame* BuildFrame(const char* name, const QString& caption, int top, int height);
     void BuildRegion();
 

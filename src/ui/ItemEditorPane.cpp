@@ -3,10 +3,10 @@
 #include "documents/ItemListDocument.h"
 #include "itemeditor/AvailabilityEditor.h"
 #include "itemeditor/CategoryChoice.h"
-#include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "shopeditor/ShopList.h"
+#include "ui/Build.h"
 #include "ui/Pictures.h"
 #include "ui/Text.h"
 
@@ -69,14 +69,16 @@ void ItemEditorPane::BuildList(QWidget* window) {
         session_.Do([&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
     });
 
-    itemNew_ = BuildButton(frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen", "+",
-                           items.cmdItemNeu, [&] { StartNewItem(items, session_.platform); });
-    itemDelete_ = BuildButton(frame, "cmdItemDelete", 480, 5400, "Gewählten Gegenstand löschen",
-                              "–", items.cmdItemDelete,
-                              [&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
-    itemSave_ =
-        BuildButton(frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓", items.cmdItemSave,
-                    [&] { SaveItem(items, session_.platform, state.folders); });
+    itemNew_ = BuildButton(session_, frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen",
+                           "+", [&] { StartNewItem(items, session_.platform); });
+    itemDelete_ =
+        BuildButton(session_, frame, "cmdItemDelete", 480, 5400, "Gewählten Gegenstand löschen",
+                    "–", [&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
+    itemSave_ = BuildButton(session_, frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓",
+                            [&] { SaveItem(items, session_.platform, state.folders); });
+    session_.mirror.Bind(itemNew_, items.cmdItemNeu);
+    session_.mirror.Bind(itemDelete_, items.cmdItemDelete);
+    session_.mirror.Bind(itemSave_, items.cmdItemSave);
 
     auto* add = Place(Named(new QPushButton(">", window), "cmdItemHin"), 3240, 2160, 495, 3615);
     add->setToolTip("Gegenstand dem Shopangebot hinzufügen");
@@ -86,41 +88,32 @@ void ItemEditorPane::BuildList(QWidget* window) {
             [&] { session_.Do([&] { AddItemToShop(state.shop, items, session_.platform); }); });
 }
 
-void ItemEditorPane::BuildCategories(CaptionFrame* parent) {
+void ItemEditorPane::BuildCategories(QWidget* parent) {
     auto& state = session_.state;
     auto& items = state.items;
     auto* frame =
         Place(Named(new CaptionFrame(parent, Black, "Kategorien"), "Frame5"), 120, 360, 2895, 1095);
-    auto* choice = Place(Named(new ChoiceBox(frame), "cmbKategorien"), 120, 240, 2655, 315);
-    choice->setAccessibleName("Kategorie der Liste");
-    session_.mirror.Bind(choice, items.cmbKategorien);
-    connect(choice, &QComboBox::activated, this, [&](int index) {
-        session_.Do([&] { ChooseCategory(items, session_.platform, state.folders, index); });
-    });
+    const auto choose = [&](int index) {
+        ChooseCategory(items, session_.platform, state.folders, index);
+    };
+    Place(BuildChoice(session_, frame, "cmbKategorien", "Kategorie der Liste", items.cmbKategorien,
+                      choose),
+          120, 240, 2655, 315);
 
-    categoryNew_ = BuildButton(frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
-                               items.cmdKategorieNeu,
-                               [&] { NewCategory(items, session_.platform, state.folders); });
-    categoryDelete_ = BuildButton(frame, "cmdKategorieDelete", 480, 600,
-                                  "Gewählte Kategorie löschen", "–", items.cmdKategorieDelete,
-                                  [&] { DeleteCategory(items, session_.platform, state.folders); });
-    print_ = BuildButton(frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤",
-                         items.cmdListeDrucken, [&] {
-                             PrintTempDocument(
-                                 state.print, session_.platform, state.folders,
-                                 [&items](std::string& file) { WriteItemList(items, file); });
-                         });
-}
-
-PictureButton* ItemEditorPane::BuildButton(QWidget* parent, const char* name, int left, int top,
-                                           const QString& toolTip, const QString& text,
-                                           const Button& state,
-                                           const std::function<void()>& operation) {
-    auto* button = new PictureButton(parent, toolTip, text);
-    Place(Named(button, name), left, top, 375, 375);
-    session_.mirror.Bind(button, state);
-    connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
-    return button;
+    categoryNew_ =
+        BuildButton(session_, frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
+                    [&] { NewCategory(items, session_.platform, state.folders); });
+    categoryDelete_ =
+        BuildButton(session_, frame, "cmdKategorieDelete", 480, 600, "Gewählte Kategorie löschen",
+                    "–", [&] { DeleteCategory(items, session_.platform, state.folders); });
+    print_ = BuildButton(
+        session_, frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤", [&] {
+            PrintTempDocument(state.print, session_.platform, state.folders,
+                              [&items](std::string& file) { WriteItemList(items, file); });
+        });
+    session_.mirror.Bind(categoryNew_, items.cmdKategorieNeu);
+    session_.mirror.Bind(categoryDelete_, items.cmdKategorieDelete);
+    session_.mirror.Bind(print_, items.cmdListeDrucken);
 }
 
 QWidget* ItemEditorPane::AddPage(const QString& caption) {
@@ -133,16 +126,15 @@ QWidget* ItemEditorPane::AddPage(const QString& caption) {
     return page;
 }
 
-LineField* ItemEditorPane::BuildText(QWidget* parent, std::size_t index) {
+LineField* ItemEditorPane::BuildText(QWidget* parent, ItemText field) {
     auto& items = session_.state.items;
-    const auto field = static_cast<ItemText>(index);
     auto* text = new LineField(parent, [field](std::string_view entered, const std::string& held,
                                                std::size_t place, std::size_t replaced) {
         return FilterItemPaste(field, entered, held, place, replaced);
     });
-    Named(text, QString("txtItem%1").arg(index));
+    Named(text, QString("txtItem%1").arg(field));
     text->setAccessibleName(parent->accessibleName());
-    session_.mirror.Bind(text, items.txtItem[index]);
+    session_.mirror.Bind(text, items.txtItem[field]);
     connect(text, &LineField::entered, this, [this, &items, field](const std::string& entered) {
         session_.Do([&] { EditItemText(items, field, entered); });
     });
@@ -162,29 +154,22 @@ void ItemEditorPane::BuildProperties() {
     name_ =
         Place(BuildText(frame("Frame1", "Name", 105, 120, wide), NameText), 120, 210, inner, 315);
 
-    auto* category = new ChoiceBox(frame("Frame6", "Kategorie", 105, 810, wide));
-    Place(Named(category, "cmbItemKategorien"), 120, 210, inner, 315);
-    category->setAccessibleName("Kategorie des Gegenstands");
-    session_.mirror.Bind(category, items.cmbItemKategorien);
-    connect(category, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { items.cmbItemKategorien.Select(index); }); });
+    Place(BuildChoice(session_, frame("Frame6", "Kategorie", 105, 810, wide), "cmbItemKategorien",
+                      "Kategorie des Gegenstands", items.cmbItemKategorien,
+                      [&](int index) { items.cmbItemKategorien.Select(index); }),
+          120, 210, inner, 315);
 
     Place(BuildText(frame("Frame7", "Gewicht", 105, 1500, 1800), WeightText), 120, 210, 1560, 315);
 
     auto* prices = frame("Frame8", "Preis", 2010, 1500, wide - 1905);
     Place(BuildText(prices, PriceText), 120, 210, 1560, 315);
-    auto* unit = Place(Named(new ChoiceBox(prices), "cmbItemPreis"), 1800, 210, 2130, 315);
-    unit->setAccessibleName("Währung");
-    session_.mirror.Bind(unit, items.cmbItemPreis);
-    connect(unit, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { items.cmbItemPreis.Select(index); }); });
+    Place(BuildChoice(session_, prices, "cmbItemPreis", "Währung", items.cmbItemPreis,
+                      [&](int index) { items.cmbItemPreis.Select(index); }),
+          1800, 210, 2130, 315);
 
-    auto* rarity = new ChoiceBox(frame("Frame9", "Wert", 105, 2190, wide));
-    Place(Named(rarity, "cmbItemWert"), 120, 210, inner, 315);
-    rarity->setAccessibleName("Wert");
-    session_.mirror.Bind(rarity, items.cmbItemWert);
-    connect(rarity, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { ChooseItemWert(items, index); }); });
+    Place(BuildChoice(session_, frame("Frame9", "Wert", 105, 2190, wide), "cmbItemWert", "Wert",
+                      items.cmbItemWert, [&](int index) { ChooseItemWert(items, index); }),
+          120, 210, inner, 315);
 
     Place(BuildText(frame("Frame2", "Beschreibung", 105, 2880, wide), DescriptionText), 120, 210,
           inner, 315);
@@ -215,12 +200,8 @@ void ItemEditorPane::BuildAvailability() {
     connect(chosen, &QListWidget::currentRowChanged, this,
             [&](int row) { session_.Do([&] { items.lstVerfügbar.Select(row); }); });
 
-    auto* name =
-        Place(Named(new QLabel(others->parentWidget()), "lblRegionen"), 120, 4560, 2160, 960);
-    name->setTextFormat(Qt::PlainText);
-    name->setWordWrap(true);
-    name->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    session_.mirror.Bind(name, items.lblRegionen);
+    Place(BuildRegionName(session_, others->parentWidget(), items.lblRegionen), 120, 4560, 2160,
+          960);
 
     const auto move = [&](const char* objectName, const QString& caption, const QString& meaning,
                           int top, std::function<void()> operation) {

@@ -1,6 +1,7 @@
 // The item editor's part of the window: categories, item list, item form.
 #pragma once
 
+#include "itemeditor/ItemForm.h"
 #include "ui/ListTable.h"
 #include "ui/Session.h"
 #include "ui/Widgets.h"
@@ -24,15 +25,12 @@ public:
 
 private:
     void BuildList(QWidget* window);
-    void BuildCategories(CaptionFrame* frame);
+    void BuildCategories(QWidget* parent);
     QWidget* AddPage(const QString& caption);
     void BuildProperties();
     void BuildAvailability();
     void BuildNotice();
-    PictureButton* BuildButton(QWidget* parent, const char* name, int left, int top,
-                               const QString& toolTip, const QString& text, const Button& state,
-                               const std::function<void()>& operation);
-    LineField* BuildText(QWidget* parent, std::size_t field);
+    LineField* BuildText(QWidget* parent, ItemText field);
 
     Session& session_;
     QTabWidget* tab_;

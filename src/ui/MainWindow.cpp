@@ -1,5 +1,6 @@
 #include "ui/MainWindow.h"
 
+#include "ui/Build.h"
 #include "ui/Pictures.h"
 #include "ui/QtPlatform.h"
 #include "ui/Text.h"
@@ -72,22 +73,13 @@ MainWindow::~MainWindow() {
     delete controls_;
 }
 
-PictureButton* MainWindow::BuildButton(const char* name, int left, const QString& toolTip,
-                                       const QString& text,
-                                       const std::function<void()>& operation) {
-    auto* button = new PictureButton(controls_, toolTip, text);
-    Place(Named(button, name), left, 0, 375, 375);
-    connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
-    return button;
-}
-
 void MainWindow::BuildModes() {
     auto& state = session_.state;
-    itemMode_ =
-        BuildButton("cmdItemEditor", 0, "ItemEditor", "I", [&state] { ShowItemEditor(state); });
-    shopMode_ =
-        BuildButton("cmdShopEditor", 360, "ShopEditor", "S", [&state] { ShowShopEditor(state); });
-    help_ = BuildButton("cmdHelp", 9120, "Hilfe", "?",
+    itemMode_ = BuildButton(session_, controls_, "cmdItemEditor", 0, 0, "ItemEditor", "I",
+                            [&state] { ShowItemEditor(state); });
+    shopMode_ = BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S",
+                            [&state] { ShowShopEditor(state); });
+    help_ = BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?",
                         [this, &state] { OpenHelp(state, session_.platform); });
 }
 

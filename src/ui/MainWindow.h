@@ -30,8 +30,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    PictureButton* BuildButton(const char* name, int left, const QString& toolTip,
-                               const QString& text, const std::function<void()>& operation);
     void BuildModes();
     void LoadPictures();
     const QImage& BackgroundOf(Mode mode) const;

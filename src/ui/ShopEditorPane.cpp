@@ -3,6 +3,7 @@
 #include "documents/ShopDocument.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
+#include "ui/Build.h"
 #include "ui/Pictures.h"
 #include "ui/Text.h"
 
@@ -26,20 +27,13 @@ ShopEditorPane::ShopEditorPane(QWidget* window, Session& session)
               shop.txtShopart);
     BuildOwner();
 
-    auto* region = BuildChoice(BuildFrame(4, "Region", FieldLeft, 3600, FieldWidth, 855),
-                               "cmbShopRegion", shop.cmbShopRegion);
-    region->move(region->x(), Px(330));
-    connect(region, &QComboBox::activated, this, [&](int index) {
-        session_.Do([&] { ChooseShopRegion(shop, session_.platform, state.folders, index); });
-    });
-    auto* prices = BuildChoice(BuildFrame(5, "Preise", FieldLeft, 4800, FieldWidth, 615),
-                               "cmbShopPreise", shop.cmbShopPreise);
-    connect(prices, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { ChoosePriceLevel(shop, index); }); });
-    auto* quality = BuildChoice(BuildFrame(6, "Qualität", FieldLeft, 5760, FieldWidth, 615),
-                                "cmbShopQualität", shop.cmbShopQualität);
-    connect(quality, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { shop.cmbShopQualität.Select(index); }); });
+    BuildField(BuildFrame(4, "Region", FieldLeft, 3600, FieldWidth, 855), "cmbShopRegion", 330,
+               shop.cmbShopRegion,
+               [&](int index) { ChooseShopRegion(shop, session_.platform, state.folders, index); });
+    BuildField(BuildFrame(5, "Preise", FieldLeft, 4800, FieldWidth, 615), "cmbShopPreise", 240,
+               shop.cmbShopPreise, [&](int index) { ChoosePriceLevel(shop, index); });
+    BuildField(BuildFrame(6, "Qualität", FieldLeft, 5760, FieldWidth, 615), "cmbShopQualität", 240,
+               shop.cmbShopQualität, [&](int index) { shop.cmbShopQualität.Select(index); });
 }
 
 CaptionFrame* ShopEditorPane::BuildFrame(int index, const QString& caption, int left, int top,
@@ -86,11 +80,8 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
     auto& shop = state.shop;
     const auto& platform = session_.platform;
     const auto build = [&](const char* name, const QString& toolTip, const QString& text, int left,
-                           const std::function<void()>& operation) {
-        auto* button = new PictureButton(frame, toolTip, text);
-        Place(Named(button, name), left, 5400, 375, 375);
-        connect(button, &QPushButton::clicked, this, [this, operation] { session_.Do(operation); });
-        return button;
+                           std::function<void()> operation) {
+        return BuildButton(session_, frame, name, left, 5400, toolTip, text, std::move(operation));
     };
     quantity_ = build("cmdShopAnzahl", "Anzahl bearbeiten", "x", 120,
                       [&] { SetShopRowQuantity(shop, platform); });
@@ -120,10 +111,7 @@ void ShopEditorPane::BuildOwner() {
     session_.mirror.Bind(draw, shop.cmdGenName);
     connect(draw, &QPushButton::clicked, this,
             [&] { session_.Do([&] { DrawOwnerName(shop, session_.platform, state.folders); }); });
-    auto* race = BuildChoice(frame, "cmbRasse", shop.cmbRasse);
-    race->move(race->x(), Px(660));
-    connect(race, &QComboBox::activated, this,
-            [&](int index) { session_.Do([&] { ChooseRace(shop, index); }); });
+    BuildField(frame, "cmbRasse", 660, shop.cmbRasse, [&](int index) { ChooseRace(shop, index); });
 }
 
 LineField* ShopEditorPane::BuildText(CaptionFrame* frame, const char* name, TextField& state) {
@@ -136,12 +124,10 @@ LineField* ShopEditorPane::BuildText(CaptionFrame* frame, const char* name, Text
     return text;
 }
 
-ChoiceBox* ShopEditorPane::BuildChoice(CaptionFrame* frame, const char* name,
-                                       const ChoiceList& state) {
-    auto* choice = Place(Named(new ChoiceBox(frame), name), 120, 240, FieldWidth - 240, 315);
-    choice->setAccessibleName(frame->accessibleName());
-    session_.mirror.Bind(choice, state);
-    return choice;
+void ShopEditorPane::BuildField(CaptionFrame* frame, const char* name, int top,
+                                const ChoiceList& state, std::function<void(int index)> choose) {
+    Place(BuildChoice(session_, frame, name, frame->accessibleName(), state, std::move(choose)),
+          120, top, FieldWidth - 240, 315);
 }
 
 void ShopEditorPane::LoadPictures() {

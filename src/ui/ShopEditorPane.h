@@ -24,7 +24,8 @@ private:
     void BuildButtons(CaptionFrame* frame);
     void BuildOwner();
     LineField* BuildText(CaptionFrame* frame, const char* name, TextField& state);
-    ChoiceBox* BuildChoice(CaptionFrame* frame, const char* name, const ChoiceList& state);
+    void BuildField(CaptionFrame* frame, const char* name, int top, const ChoiceList& state,
+                    std::function<void(int index)> choose);
 
     QWidget* window_;
     Session& session_;

@@ -33,10 +33,6 @@ CaptionFrame::CaptionFrame(QWidget* parent, Look look, const QString& caption)
     setAccessibleName(caption);
 }
 
-bool CaptionFrame::CaptionFits() const {
-    return fontMetrics().horizontalAdvance(caption_) <= width() - 2 * CaptionIndent;
-}
-
 void CaptionFrame::paintEvent(QPaintEvent*) {
     const bool black = look_ == Look::Black;
     const QColor ground = black ? QColor(Qt::black) : Grey;

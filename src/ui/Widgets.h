@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QFrame>
 #include <QImage>
 #include <QPushButton>
 
@@ -11,6 +10,18 @@ namespace emporium::ui {
 /// Twips to pixels at scale factor 1.
 constexpr int Px(int twips) {
     return twips / 15;
+}
+
+/// Gives a widget the name by which it can be found.
+template <typename Widget> Widget* Named(Widget* widget, const QString& name) {
+    widget->setObjectName(name);
+    return widget;
+}
+
+/// Puts a widget at its place in the parent, in twips.
+template <typename Widget> Widget* Place(Widget* widget, int left, int top, int width, int height) {
+    widget->setGeometry(Px(left), Px(top), Px(width), Px(height));
+    return widget;
 }
 
 /// An image for a place of that size, sharp at the widget's scale. Fills the place, cut at the
@@ -27,9 +38,6 @@ public:
     static constexpr QColor Grey{192, 192, 192};
 
     CaptionFrame(QWidget* parent, Look look, const QString& caption);
-
-    /// True if the caption fits into the edge.
-    bool CaptionFits() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
