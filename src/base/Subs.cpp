@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <chrono>
 #include <cmath>
 #include <unordered_set>
 
@@ -89,7 +90,7 @@ IniFile::IniFile(std::string_view text) {
             const auto end = line.find(']');
             if (end == line.npos)
                 continue;
-            section = FoldCase(Trim(line.substr(1, end - 1))) + '\0';
+            section = LookupName(Trim(line.substr(1, end - 1)), "");
             reachable = seen.insert(section).second;
             continue;
         }
@@ -119,6 +120,11 @@ bool FileExists(const fs::path& path) {
     return std::any_of(entries.begin(), entries.end(), [&pattern](const fs::path& entry) {
         return MatchesWildcards(pattern, entry.filename().u8string()) && IsNormalFile(entry);
     });
+}
+
+float SecondsSinceMidnight() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<float>(now % std::chrono::days(1)).count();
 }
 
 std::int32_t Dice::RollDice(std::int32_t n) {

@@ -41,6 +41,10 @@ bool FileExists(const std::filesystem::path& path);
 /// A throw of a die with n sides, 1 to n.
 using Die = std::function<std::int32_t(std::int32_t n)>;
 
+/// The clock of the dice: seconds since midnight with their fraction, in no particular time zone,
+/// which would take longer to look up than the throw.
+float SecondsSinceMidnight();
+
 /// The dice of the running program. Every throw reads the clock and reseeds from it; the clock's
 /// value is folded into the generator's state, so that throws within one tick are independent.
 class Dice {

@@ -28,11 +28,11 @@ std::string WithoutOuterBlanks(std::string text) {
 }
 
 // What follows the first name.
-std::string Surname(NameLists& lists, const Die& die, std::string_view race, bool male) {
+std::string Surname(NameLists& lists, std::string_view race, bool male) {
     if (race == "Zwerge")
         return (male ? ", Sohn des " : ", Tochter des ") + DrawFrom(lists, race, Male);
     if (race == "Thorwaler") {
-        const std::string parent = DrawFrom(lists, race, die(2) == 1 ? Male : Female);
+        const std::string parent = DrawFrom(lists, race, lists.Throw(2) == 1 ? Male : Female);
         return " " + parent + (male ? "son" : "sdotter");
     }
     if (race == "Tulamiden")
@@ -64,19 +64,19 @@ std::string NameLists::DrawName(std::string_view list) {
             failure_ = FileFailure{file, reason};
         return {};
     }
-    const std::int32_t k = die_(static_cast<std::int32_t>(names.size()));
+    const std::int32_t k = Throw(static_cast<std::int32_t>(names.size()));
     return std::string(names[static_cast<std::size_t>(k - 1)]);
 }
 
-std::string GenName(NameLists& lists, const Die& die, std::string_view race, std::string& sex) {
+std::string GenName(NameLists& lists, std::string_view race, std::string& sex) {
     if (race == "Mohas")
         return lists.DrawName("Mohas.dat");
     if (sex.empty() || sex == "Zufall")
-        sex = die(2) == 1 ? Male : Female;
+        sex = lists.Throw(2) == 1 ? Male : Female;
     const std::string first = DrawFrom(lists, race, sex);
     if (race == "Nivesen")
         return first + " von " + DrawFrom(lists, race, Male) + "s Stamm";
-    return WithoutTrailingBlanks(first) + Surname(lists, die, race, sex == Male);
+    return WithoutTrailingBlanks(first) + Surname(lists, race, sex == Male);
 }
 
 } // namespace emporium

@@ -12,13 +12,16 @@
 
 namespace emporium {
 
-/// Draws names; keeps nothing but the first list that gave none.
+/// Draws names by dice; keeps nothing but the first list that gave none.
 class NameLists {
 public:
     NameLists(const FileLayer& files, const Folders& folders, const Die& die);
 
     /// One line of the list, each equally likely; empty if the list can't be read or has no line.
     std::string DrawName(std::string_view list);
+
+    /// A throw of the dice with n sides.
+    std::int32_t Throw(std::int32_t n) const { return die_(n); }
 
     /// The list that gave no name, and why; nothing if all did.
     const std::optional<FileFailure>& Failure() const { return failure_; }
@@ -34,6 +37,6 @@ private:
 /// drawn word is left there ("Mohas" has no need of it and leaves it alone). A race beyond the
 /// known ones takes its names from the lists that bear its name. The lists' Failure tells whether
 /// the name is whole.
-std::string GenName(NameLists& lists, const Die& die, std::string_view race, std::string& sex);
+std::string GenName(NameLists& lists, std::string_view race, std::string& sex);
 
 } // namespace emporium

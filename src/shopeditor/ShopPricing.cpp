@@ -66,7 +66,7 @@ void ChooseRace(ShopEditor& shop, int index) {
 void DrawOwnerName(ShopEditor& shop, const Platform& platform, const Folders& folders) {
     NameLists lists(platform.files, folders, platform.RollDice);
     std::string sex;
-    std::string name = GenName(lists, platform.RollDice, shop.cmbRasse.Text(), sex);
+    std::string name = GenName(lists, shop.cmbRasse.Text(), sex);
     if (lists.Failure())
         platform.ShowMessage(
             FailureText("Es konnte kein Name gezogen werden, weil eine Namensliste fehlt oder "

@@ -12,8 +12,6 @@
 #include <QPrintDialog>
 #include <QUrl>
 
-#include <chrono>
-
 namespace emporium::ui {
 
 namespace {
@@ -126,11 +124,6 @@ bool PrintPage(QWidget& window, HtmlView& page) {
     const bool printed = page.PrintTo(printer);
     SetWaitPointer(false);
     return printed;
-}
-
-float SecondsSinceMidnight() {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return std::chrono::duration<float>(now % std::chrono::days(1)).count();
 }
 
 } // namespace emporium::ui

@@ -16,8 +16,4 @@ Platform QtPlatform(QWidget& window, const Mirror& mirror);
 /// Opens the print dialog for the loaded page and prints it. False if printing failed.
 bool PrintPage(QWidget& window, HtmlView& page);
 
-/// The clock of the dice: seconds since midnight with their fraction, in no particular time zone,
-/// which would take longer to look up than the throw.
-float SecondsSinceMidnight();
-
 } // namespace emporium::ui

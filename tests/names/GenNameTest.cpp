@@ -36,7 +36,7 @@ protected:
         script.Throw(throws);
         script.sides.clear();
         NameLists lists(script.platform.files, program.folders, script.platform.RollDice);
-        return GenName(lists, script.platform.RollDice, race, sex);
+        return GenName(lists, race, sex);
     }
 
     ProgramFolder program;
