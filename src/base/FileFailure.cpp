@@ -13,7 +13,7 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
-    static constexpr std::array<Known, 14> known = {{
+    static constexpr std::array<Known, 15> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert oder die Datei ist "
                                        "schreibgeschützt."_ansi},
@@ -29,6 +29,7 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
         {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
+        {std::errc::too_many_links, "Zwei Namen führen zu derselben Datei."_ansi},
     }};
     for (const Known& entry : known)
         if (reason == entry.code)

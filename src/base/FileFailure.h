@@ -14,7 +14,7 @@ struct FileFailure {
     std::error_code reason;
 };
 
-/// The reason in German, a whole sentence.
+/// The reason in German, a whole sentence. No reason means that the file is empty.
 std::string ReasonText(const std::error_code& reason);
 
 /// The text of a box: what could not be done, then the file and the reason.
