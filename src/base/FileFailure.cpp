@@ -6,6 +6,12 @@
 
 namespace emporium {
 
+std::error_code ReasonOf(const FileText& text) {
+    return text.state == FileText::State::Absent
+               ? std::make_error_code(std::errc::no_such_file_or_directory)
+               : text.reason;
+}
+
 std::string ReasonText(const std::error_code& reason) {
     if (!reason)
         return "Die Datei ist leer.";
@@ -40,6 +46,20 @@ std::string ReasonText(const std::error_code& reason) {
 std::string FailureText(std::string_view what, const FileFailure& failure) {
     return std::string(what) + "\n\nDatei: " + FromPath(failure.file) +
            "\nGrund: " + ReasonText(failure.reason);
+}
+
+std::string FaultLine(const FileFailure& failure) {
+    return FromPath(failure.file.filename()) + ": " + ReasonText(failure.reason);
+}
+
+std::string FaultsText(const std::vector<std::string>& faults) {
+    constexpr std::size_t shown = 12;
+    std::string text = "Nicht alles ist gelungen:\n";
+    for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
+        text += "\n" + faults[i];
+    if (faults.size() > shown)
+        text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
+    return text;
 }
 
 } // namespace emporium

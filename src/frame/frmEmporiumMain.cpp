@@ -42,7 +42,7 @@ std::string NoWritingText(const Platform& platform, const std::filesystem::path&
 void BringUpToDate(const Platform& platform, const Folders& folders,
                    std::vector<std::string>& faults) {
     if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder())) {
-        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
+        faults.push_back(FaultLine(*failure));
         return;
     }
     // Half a page that stays because it can't be removed does no harm.

@@ -52,7 +52,7 @@ std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& p
         return {chosen};
     const CategoryList list = ReadCategoryNames(platform.files, folders);
     if (list.state != FileText::State::Whole)
-        faults.push_back("ItemKategorien.dat: " + ReasonText(list.reason));
+        faults.push_back(FaultLine({CategoryListPath(folders), list.reason}));
     return list.names;
 }
 
@@ -142,7 +142,7 @@ void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders&
                       std::vector<std::string>& faults) {
     CategoryList list = ReadCategoryNames(files, folders);
     if (list.state != FileText::State::Whole)
-        faults.push_back("ItemKategorien.dat: " + ReasonText(list.reason) +
+        faults.push_back(FaultLine({CategoryListPath(folders), list.reason}) +
                          std::string(" Deshalb gibt es nur die Auswahl \"Alles\", und neue "
                                      "Kategorien können nicht angelegt werden."_ansi));
     if (list.tooLong)

@@ -129,9 +129,7 @@ bool IsPlainName(std::string_view name) {
 
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
     FileText text = files.read(CategoryListPath(folders));
-    CategoryList list{text.state, text.reason, std::move(text.bytes), {}, false};
-    if (text.state == FileText::State::Absent)
-        list.reason = std::make_error_code(std::errc::no_such_file_or_directory);
+    CategoryList list{text.state, ReasonOf(text), std::move(text.bytes), {}, false};
     list.names = NamesIn(list.bytes, MaxRows + 1);
     list.tooLong = list.names.size() > MaxRows;
     if (list.tooLong)
@@ -225,16 +223,6 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
         add(std::to_string(flawed) +
             std::string(" Datensätze haben keinen Namen oder keinen Preis."_ansi));
     return faults;
-}
-
-std::string FaultsText(const std::vector<std::string>& faults) {
-    constexpr std::size_t shown = 12;
-    std::string text = "Nicht alles ist gelungen:\n";
-    for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
-        text += "\n" + faults[i];
-    if (faults.size() > shown)
-        text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
-    return text;
 }
 
 } // namespace emporium

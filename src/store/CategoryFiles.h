@@ -119,7 +119,4 @@ std::string WithoutRecordAt(std::string_view bytes, const RecordView& place);
 /// records with an empty name or price line. Empty if all is well.
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file);
 
-/// The text of one box for all that was noticed.
-std::string FaultsText(const std::vector<std::string>& faults);
-
 } // namespace emporium
