@@ -169,6 +169,7 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     }
     World vanished(foreign, true);
     vanished.Save();
+    vanished.Delete(); // nothing is chosen now
     vanished.Save();
     EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
     World twins(before, true);
@@ -228,15 +229,43 @@ TEST(ItemSaving, AChangeKeepsEveryByteOfTheNeighbours) {
 
 TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     EditorAtWork world;
-    const auto create = [&world](std::string_view name) {
-        world.script.ExpectText(NamePrompt, name);
+    const auto list = [&world] { return world.File("ItemKategorien"); };
+    const auto create = [&world] {
         NewCategory(world.editor, world.script.platform, world.program.folders);
     };
-    world.program.Write("Emporium/ItemKategorien.dat", "viele\nAlles\nAbakus\n\nFremd\nKleidung");
-    create("Zelte");
-    EXPECT_EQ(world.File("ItemKategorien"), " 4 \nAlles\nAbakus\n\nFremd\nKleidung\nZelte\n");
-    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nFremd.dat: Die Datei fehlt.");
-    world.View("Fremd");
+    const std::string names = "\nAlles\nAbakus\n\nFremd\nKleidung";
+    world.View("Alles");
+    world.program.Write("Emporium/ItemKategorien.dat", "4" + names);
+    world.script.ExpectText(NamePrompt, "Zelte");
+    world.script.ExpectMessage("Die Kategorie konnte nicht angelegt werden.\n\nItemKategorien.dat");
+    create();
+    EXPECT_EQ(list(), "4" + names) << "one name is missing";
+    world.program.Write("Emporium/ItemKategorien.dat", "3" + names);
+    world.script.ExpectText(NamePrompt, "Zelte");
+    create();
+    EXPECT_EQ(list(), " 4 " + names + "\nZelte\n");
+    EXPECT_EQ(world.editor.cmbKategorien.Entries(),
+              (std::vector<std::string>{"Abakus", "Alles", "Fremd", "Kleidung", "Zelte"}));
+
+    world.FormCategory("Fremd"); // unknown to the view, and without a file
+    world.Fill(Hat);
+    world.Save();
+    EXPECT_EQ(world.File("Fremd"), RecordLines({Hat}));
+
+    world.program.Write("Emporium/ItemKategorien.dat", "1\nKleidung\n");
+    std::filesystem::remove(world.program.folders.EmporiumFolder() / "Abakus.dat");
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nAbakus.dat: Die Datei fehlt.");
+    world.View("Abakus");
+    world.Fill(Hat);
+    ExpectRefusal(world, "Abakus.dat: Diese Kategorie gibt es nicht mehr");
+    world.View("Kleidung");
+    world.Open("Zopf");
+    world.FormCategory("Abakus");
+    world.script.ExpectYesNo(MoveQuestion, true);
+    ExpectRefusal(world, "Abakus.dat: Diese Kategorie gibt es nicht mehr");
+
+    world.program.Write("Emporium/ItemKategorien.dat", "1\nAlles\nAbakus\n");
+    world.program.Write("Emporium/Abakus.dat", "");
     world.View("Abakus");
     world.script.ExpectYesNo(DeleteCategoryQuestion, true);
     world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
@@ -246,7 +275,7 @@ TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     world.program.Write("Emporium/Abakus.dat", "");
     world.script.ExpectYesNo(DeleteCategoryQuestion, true);
     DeleteCategory(world.editor, world.script.platform, world.program.folders);
-    EXPECT_EQ(world.File("ItemKategorien"), " 3 \nAlles\n\nFremd\nKleidung\nZelte\n");
+    EXPECT_EQ(list(), " 0 \nAlles\n");
 }
 
 TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
