@@ -6,6 +6,12 @@
 
 namespace emporium {
 
+std::error_code ReasonOf(const FileText& text) {
+    return text.state == FileText::State::Absent
+               ? std::make_error_code(std::errc::no_such_file_or_directory)
+               : text.reason;
+}
+
 std::string ReasonText(const std::error_code& reason) {
     if (!reason)
         return "Die Datei ist leer.";
@@ -13,7 +19,7 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
-    static constexpr std::array<Known, 14> known = {{
+    static constexpr std::array<Known, 15> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert oder die Datei ist "
                                        "schreibgeschützt."_ansi},
@@ -29,6 +35,7 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
         {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
+        {std::errc::too_many_links, "Zwei Namen führen zu derselben Datei."_ansi},
     }};
     for (const Known& entry : known)
         if (reason == entry.code)
@@ -39,6 +46,20 @@ std::string ReasonText(const std::error_code& reason) {
 std::string FailureText(std::string_view what, const FileFailure& failure) {
     return std::string(what) + "\n\nDatei: " + FromPath(failure.file) +
            "\nGrund: " + ReasonText(failure.reason);
+}
+
+std::string FaultLine(const FileFailure& failure) {
+    return FromPath(failure.file.filename()) + ": " + ReasonText(failure.reason);
+}
+
+std::string FaultsText(const std::vector<std::string>& faults) {
+    constexpr std::size_t shown = 12;
+    std::string text = "Nicht alles ist gelungen:\n";
+    for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
+        text += "\n" + faults[i];
+    if (faults.size() > shown)
+        text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
+    return text;
 }
 
 } // namespace emporium

@@ -41,6 +41,15 @@ void RemoveTemporaries(const FileLayer& files, const std::vector<Step>& steps) {
             files.remove(step.temporary);
 }
 
+// Two changes of one file would leave only the later one's contents.
+std::error_code CheckDistinct(const std::vector<Step>& earlier, const fs::path& target) {
+    const bool again = std::any_of(earlier.begin(), earlier.end(), [&target](const Step& step) {
+        std::error_code absent;
+        return fs::equivalent(step.target, target, absent);
+    });
+    return again ? std::make_error_code(std::errc::too_many_links) : std::error_code();
+}
+
 std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<FileChange>& changes,
                                    std::vector<Step>& steps) {
     for (const FileChange& change : changes) {
@@ -49,6 +58,8 @@ std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<Fil
         bool exists = false;
         if (!error)
             error = CheckWritable(step.target, exists);
+        if (!error)
+            error = CheckDistinct(steps, step.target);
         if (!error && changes.size() > 1) {
             step.before = files.read(step.target);
             error = step.before.reason;
@@ -166,6 +177,7 @@ std::optional<FileFailure> WriteBound(const FileLayer& files, const fs::path& jo
         files.remove(journal);
     return failure;
 }
+
 // How far a journal's entry has come. Lost: neither the temporary nor the target holds what was
 // announced.
 enum class Progress { Pending, Done, Lost };

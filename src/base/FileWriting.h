@@ -1,7 +1,7 @@
 // The one road by which a file is written: the complete new contents of one or several files, and
 // afterwards all of them stand or none does, also if the program is killed, the disk is full or an
 // operation fails. A single file is written beside its place and renamed over it. Several files
-// are bound together by a journal; what it announces is carried out before anything else is read.
+// are bound together by a journal; what it announces is carried out before any file is rewritten.
 #pragma once
 
 #include "base/FileFailure.h"
@@ -19,9 +19,10 @@ struct FileChange {
 };
 
 /// Carries out all changes or none, removals last. Links are followed, permissions kept; a
-/// write-protected file is refused. More than one change needs `journalFolder`, the folder that
-/// FinishJournal looks at. On failure every file stands as before; if even that could not be
-/// brought about, the next FinishJournal carries out all changes.
+/// write-protected file is refused, and so are two changes that lead to one file. More than one
+/// change needs `journalFolder`, the folder that FinishJournal looks at. On failure every file
+/// stands as before; if even that could not be brought about, the next FinishJournal carries out
+/// all changes.
 std::optional<FileFailure> WriteFiles(const FileLayer& files,
                                       const std::filesystem::path& journalFolder,
                                       const std::vector<FileChange>& changes);

@@ -25,24 +25,40 @@ bool AskDespiteOtherCopy(const Platform& platform) {
          BoxIcon::Warning, std::string(ProgramTitle)});
 }
 
-// Told at the start, before a save fails. Empty if nothing stands in the way of writing.
-std::string NoWritingText(const Platform& platform, const std::filesystem::path& folder) {
+constexpr std::string_view NoChanges =
+    "Das Programm kann in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und Läden "
+    "zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
+    "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
+    "Dokumente, und startet das Programm von dort."_ansi;
+constexpr std::string_view NoPrinting =
+    "Das Programm kann in den Ordner Temp nicht schreiben, deshalb könnt ihr nichts drucken. "
+    "Einen Laden könnt ihr exportieren und aus dem Browser drucken."_ansi;
+
+// Told at the start, before a save or a print fails. Empty if nothing stands in the way of writing.
+std::string NoWritingText(const Platform& platform, const std::filesystem::path& folder,
+                          std::string_view consequence) {
     const auto failure = TryWriting(platform.files, folder);
-    if (!failure)
+    return failure ? FailureText(consequence, *failure) : std::string();
+}
+
+// A program started within an archive stands there alone. Empty if its data are there.
+std::string NoDataText(const Folders& folders) {
+    std::error_code unknown;
+    if (std::filesystem::is_directory(StatusOf(folders.EmporiumFolder(), unknown)) || unknown)
         return {};
-    return FailureText(
-        "Das Programm kann in seinen Ordner nicht schreiben. Ihr könnt nachschlagen und Läden "
-        "zusammenstellen, aber keine Gegenstände ändern und nichts drucken.\n\n"
-        "Kopiert den ganzen Ordner an einen Ort, an dem ihr schreiben dürft, etwa in eure "
-        "Dokumente, und startet das Programm von dort."_ansi,
-        *failure);
+    return std::string(
+               "Neben dem Programm fehlt der Ordner Data. Habt ihr das Archiv noch nicht "
+               "entpackt, so entpackt es zuerst ganz und startet das Programm im entpackten "
+               "Ordner. Wollt ihr es an einen anderen Ort bringen, so kopiert immer den ganzen "
+               "Ordner.\n\nGesucht wurde: "_ansi) +
+           FromPath(folders.EmporiumFolder());
 }
 
 // While an interrupted write can't be finished, nothing is written on top of it.
 void BringUpToDate(const Platform& platform, const Folders& folders,
                    std::vector<std::string>& faults) {
     if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder())) {
-        faults.push_back(FromPath(failure->file.filename()) + ": " + ReasonText(failure->reason));
+        faults.push_back(FaultLine(*failure));
         return;
     }
     // Half a page that stays because it can't be removed does no harm.
@@ -63,15 +79,18 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform,
     window.claim = ClaimFolder(folders.EmporiumFolder());
     if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
-    std::string notice = NoWritingText(platform, folders.EmporiumFolder());
+    std::string notice = NoDataText(folders);
+    const bool hasData = notice.empty();
+    if (hasData)
+        notice = NoWritingText(platform, folders.EmporiumFolder(), NoChanges);
     // What another copy is just writing looks like something to be finished.
     if (notice.empty() && !window.claim.takenElsewhere)
         BringUpToDate(platform, folders, faults);
     if (notice.empty())
-        notice = NoWritingText(platform, folders.TempFolder);
+        notice = NoWritingText(platform, folders.TempFolder, NoPrinting);
     ReadCategoryList(window.items, platform.files, folders, faults);
     window.caption = Caption();
-    if (!faults.empty())
+    if (hasData && !faults.empty())
         notice += (notice.empty() ? "" : "\n\n") + FaultsText(faults);
     if (!notice.empty())
         platform.ShowMessage(notice);

@@ -31,7 +31,8 @@ struct frmEmporiumMain {
 /// Starts the program: what a killed run left is finished, the category files are brought up to
 /// date and the category list is read. What could not be read or written is told in one box. If
 /// another copy of the program uses the same data, a box asks whether to go on; false if not. A
-/// program folder that can't be written is told, too, and stays as it is.
+/// data folder that is missing or can't be written is told, too, and stays as it is; so is a folder
+/// for pages that can't be written.
 bool StartUp(frmEmporiumMain& window, const Platform& platform,
              const std::filesystem::path& programFolder);
 

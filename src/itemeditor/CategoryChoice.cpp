@@ -6,8 +6,6 @@
 #include "store/CategoryNames.h"
 
 #include <algorithm>
-#include <iterator>
-#include <unordered_set>
 
 namespace emporium {
 
@@ -50,10 +48,10 @@ std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& p
         return {};
     if (chosen != AllCategories)
         return {chosen};
-    const CategoryList list = ReadCategoryNames(platform.files, folders);
-    if (list.state != FileText::State::Whole)
-        faults.push_back("ItemKategorien.dat: " + ReasonText(list.reason));
-    return list.names;
+    CategoryList list = ReadCategoryNames(platform.files, folders);
+    if (const auto fault = CategoryListFault(list); !fault.empty())
+        faults.push_back(fault);
+    return std::move(list.names);
 }
 
 // The records of the chosen entry; nothing of the form.
@@ -66,29 +64,35 @@ void ReadView(ItemEditor& editor, const Platform& platform, const Folders& folde
     FillItemList(editor);
 }
 
-void AddNewNames(ItemEditor& editor, std::vector<std::string> names) {
-    const std::unordered_set<std::string> known(editor.CategoryNames.begin(),
-                                                editor.CategoryNames.end());
-    std::vector<std::string> added;
-    std::copy_if(names.begin(), names.end(), std::back_inserter(added),
-                 [&known](const std::string& name) { return known.count(name) == 0; });
-    editor.cmbKategorien.AddAll(added);
-    editor.cmbItemKategorien.AddAll(added);
+// The entry that was chosen stays chosen if there still is one of that name.
+void ShowNames(ChoiceList& list, const std::vector<std::string>& names) {
+    const std::string chosen = list.Text();
+    list = ChoiceList(ChoiceList::Order::Sorted, {AllCategories});
+    list.AddAll(names);
+    const auto& entries = list.Entries();
+    const auto place = std::find(entries.begin(), entries.end(), chosen) - entries.begin();
+    list.Select(static_cast<int>(place));
+}
+
+void SetCategoryNames(ItemEditor& editor, std::vector<std::string> names) {
+    ShowNames(editor.cmbKategorien, names);
+    ShowNames(editor.cmbItemKategorien, names);
     editor.CategoryNames = std::move(names);
 }
 
 constexpr std::string_view NotCreated = "Die Kategorie konnte nicht angelegt werden.";
 constexpr std::string_view NotDeleted = "Die Kategorie konnte nicht gelöscht werden."_ansi;
 
-// The list as it stands on the disk. False, after a box, if it can't be read.
+// The list as it stands on the disk. False, after a box, if it can't be changed.
 bool ReadListToChange(const Platform& platform, const Folders& folders, std::string_view what,
                       CategoryList& list) {
     if (!ReadyToWrite(platform, folders))
         return false;
     list = ReadCategoryNames(platform.files, folders);
-    if (list.state != FileText::State::Whole)
-        platform.ShowMessage(FailureText(what, {CategoryListPath(folders), list.reason}));
-    return list.state == FileText::State::Whole;
+    const std::string fault = CategoryListFault(list);
+    if (!fault.empty())
+        platform.ShowMessage(std::string(what) + "\n\n" + fault);
+    return fault.empty();
 }
 
 // A usable name from the user and the list that it is to enter; an empty name if he gives up.
@@ -104,17 +108,12 @@ std::string AskCategoryName(const Platform& platform, const Folders& folders, Ca
     }
 }
 
-const std::string& HomeName(const ItemEditor& editor, int row) {
-    const int home = editor.ItemHomeCategories[static_cast<std::size_t>(row)];
-    return editor.viewFiles[static_cast<std::size_t>(home)].name;
-}
-
 // The row of the record that is chosen in `before`, in the same category; -1 if it is gone.
 int FindRecord(const ItemEditor& editor, const ItemEditor& before) {
     const int chosen = before.CurrentItemRow;
     for (int row = 0; row < editor.ItemCount(); ++row)
         if (editor.Record(row) == before.Record(chosen) &&
-            HomeName(editor, row) == HomeName(before, chosen))
+            editor.FileAt(editor.HomeOf(row)).name == before.FileAt(before.HomeOf(chosen)).name)
             return row;
     return -1;
 }
@@ -123,7 +122,7 @@ int FindRecord(const ItemEditor& editor, const ItemEditor& before) {
 std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
                           const Folders& folders, const std::string& name) {
     const int file = ViewFileOf(editor, name);
-    if (file >= 0 && !editor.viewFiles[static_cast<std::size_t>(file)].canBeWritten)
+    if (file >= 0 && !editor.FileAt(file).canBeWritten)
         return name + std::string(".dat: Diese Kategorie konnte nicht vollständig gelesen werden, "
                                   "deshalb wird sie nicht gelöscht."_ansi);
     const FileText present = platform.files.read(CategoryPath(folders, name));
@@ -141,15 +140,15 @@ std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
 void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders& folders,
                       std::vector<std::string>& faults) {
     CategoryList list = ReadCategoryNames(files, folders);
-    if (list.state != FileText::State::Whole)
-        faults.push_back("ItemKategorien.dat: " + ReasonText(list.reason) +
-                         std::string(" Deshalb gibt es nur die Auswahl \"Alles\", und neue "
-                                     "Kategorien können nicht angelegt werden."_ansi));
-    if (list.tooLong)
-        faults.emplace_back(
-            "ItemKategorien.dat: Es werden nur die ersten 32767 Kategorien gezeigt.");
-    editor.cmdKategorieNeu.enabled = list.state == FileText::State::Whole;
-    AddNewNames(editor, std::move(list.names));
+    const bool whole = list.state == FileText::State::Whole;
+    std::string fault = CategoryListFault(list);
+    if (!whole)
+        fault += " Deshalb gibt es nur die Auswahl \"Alles\", und neue Kategorien können nicht "
+                 "angelegt werden."_ansi;
+    if (!fault.empty())
+        faults.push_back(std::move(fault));
+    editor.cmdKategorieNeu.enabled = whole;
+    SetCategoryNames(editor, std::move(list.names));
 }
 
 void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders& folders,
@@ -166,7 +165,6 @@ void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& fold
     editor.cmbItemKategorien.Select(editor.cmbKategorien.Selection());
     ClearItemForm(editor);
     UpdateItemButtons(editor);
-    editor.cmdItemSave.enabled = false;
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
 }
@@ -176,13 +174,12 @@ void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& fo
     std::vector<std::string> faults;
     ReadView(editor, platform, folders, faults);
     const int row = before.CurrentItemRow < 0 ? -1 : FindRecord(editor, before);
+    editor.CurrentItemRow = row;
     if (row >= 0) {
-        editor.CurrentItemRow = row;
         editor.EditingExisting = before.EditingExisting;
         editor.lvGegenstände.toolTip = ItemName(editor.Record(row));
     }
     UpdateItemButtons(editor);
-    UpdateSaveAvailability(editor);
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
 }
@@ -199,7 +196,6 @@ void UpdateItemButtons(ItemEditor& editor) {
     const bool filled = !editor.Items.empty();
     editor.cmdItemDelete.enabled = filled;
     editor.cmdListeDrucken.enabled = filled;
-    editor.cmdItemSave.enabled = filled;
     editor.cmdItemHin.enabled = filled;
     const std::string chosen = editor.cmbKategorien.Text();
     editor.cmdKategorieDelete.enabled =
@@ -219,7 +215,8 @@ void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& fo
         return;
     }
     list.names.push_back(name);
-    AddNewNames(editor, std::move(list.names));
+    SetCategoryNames(editor, std::move(list.names));
+    UpdateItemButtons(editor);
     if (editor.cmbKategorien.Text() == AllCategories)
         editor.viewFiles.push_back({name, std::make_shared<const std::string>(), true});
 }
@@ -246,13 +243,9 @@ void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders&
         return;
     }
     std::erase(list.names, name);
-    AddNewNames(editor, std::move(list.names));
-    // The form's own choice may have been set elsewhere since the category was loaded.
-    editor.cmbItemKategorien.Select(editor.cmbKategorien.Selection());
-    editor.cmbItemKategorien.RemoveSelected();
-    editor.cmbKategorien.RemoveSelected();
-    editor.cmdKategorieDelete.enabled = false;
+    SetCategoryNames(editor, std::move(list.names));
     ResetView(editor);
+    UpdateItemButtons(editor);
 }
 
 int ViewFileOf(const ItemEditor& editor, std::string_view category) {

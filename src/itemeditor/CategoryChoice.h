@@ -23,7 +23,8 @@ void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders&
 void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// Reads the view's files again because another program changed one. What the form holds stays; it
-/// belongs to the same record as before if there still is one, and is a new item otherwise.
+/// belongs to the same record as before if there still is one, and is a new item otherwise; no row
+/// is chosen then.
 void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// Carries out what an earlier write announced but could not finish. Precedes every reading of what
@@ -34,13 +35,15 @@ bool ReadyToWrite(const Platform& platform, const Folders& folders);
 void UpdateItemButtons(ItemEditor& editor);
 
 /// Asks for a name until it can be used, and creates an empty category of that name. The view
-/// stays. A category whose file can't be written does not enter the lists. Names that another
-/// program has put into the list file stay there and enter the lists as well.
+/// stays. A category whose file can't be written does not enter the lists. What another program has
+/// put into the list file or taken out enters or leaves the lists as well; a list file with a fault
+/// is not changed.
 void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// Deletes the chosen category, after a question. It must be empty and not a fixed one, which is
 /// what enables the button. A file that could not be read whole, or that is no longer empty, is
-/// refused with a box. If the files can't be written nothing changes.
+/// refused with a box, and so is a list file with a fault. If the files can't be written nothing
+/// changes.
 void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders& folders);
 
 /// The index of the view's file of that category, -1 if the view has none.

@@ -60,6 +60,10 @@ struct ItemEditor {
     int ItemCount() const { return static_cast<int>(Items.size()); }
 
     const RecordView& Record(int row) const { return Items[static_cast<std::size_t>(row)]; }
+
+    int HomeOf(int row) const { return ItemHomeCategories[static_cast<std::size_t>(row)]; }
+
+    const ViewFile& FileAt(int home) const { return viewFiles[static_cast<std::size_t>(home)]; }
 };
 
 } // namespace emporium

@@ -7,9 +7,17 @@ namespace emporium {
 
 namespace {
 
-// Selects the entry that begins with the last character of the line, if there is one.
-void SelectByMark(ChoiceList& list, std::string_view line) {
-    for (std::size_t i = 0; i < list.Entries().size() && !line.empty(); ++i)
+// A line without its mark stays whole, and its list waits for a choice. A mark that the list does
+// not know leaves the choice as it was.
+void ShowMarked(TextField& text, ChoiceList& list, const RecordView& record, ItemField field) {
+    const std::string_view line = record[field];
+    if (!HasMark(record, field)) {
+        text.text = line;
+        list.Select(-1);
+        return;
+    }
+    text.text = WithoutLast(line);
+    for (std::size_t i = 0; i < list.Entries().size(); ++i)
         if (list.Entries()[i].front() == line.back())
             list.Select(static_cast<int>(i));
 }
@@ -23,11 +31,9 @@ std::string Mark(const ChoiceList& list) {
 
 void ShowItemInForm(ItemEditor& editor, const Platform& platform, const Folders& folders, int row) {
     const RecordView& record = editor.Record(row);
-    editor.txtItem[NameText].text = ItemName(record);
+    ShowMarked(editor.txtItem[NameText], editor.cmbItemWert, record, NameField);
     editor.txtItem[WeightText].text = record[WeightField];
-    editor.txtItem[PriceText].text = WithoutLast(record[PriceField]);
-    SelectByMark(editor.cmbItemPreis, record[PriceField]);
-    SelectByMark(editor.cmbItemWert, record[NameField]);
+    ShowMarked(editor.txtItem[PriceText], editor.cmbItemPreis, record, PriceField);
     editor.txtItem[DescriptionText].text = record[DescriptionField];
     ShowAvailability(editor, platform, folders, record[AvailabilityField]);
     UpdateSaveAvailability(editor);

@@ -7,22 +7,6 @@
 
 namespace emporium {
 
-namespace {
-
-void InsertSorted(ItemEditor& editor, int record) {
-    auto& list = editor.lvGegenstände;
-    const auto cell = [&](int row) { return ItemCell(editor.Record(row), list.sort.column); };
-    const auto before = [&](int left, int right) {
-        if (cell(left) == cell(right))
-            return left < right;
-        return list.sort.descending ? GermanLess(cell(right), cell(left))
-                                    : GermanLess(cell(left), cell(right));
-    };
-    list.rows.insert(std::lower_bound(list.rows.begin(), list.rows.end(), record, before), record);
-}
-
-} // namespace
-
 std::string_view ItemCell(const RecordView& record, int column) {
     return column == ItemNameColumn ? ItemName(record) : std::string_view(record[PriceField]);
 }
@@ -36,8 +20,16 @@ void FillItemList(ItemEditor& editor) {
 }
 
 void AddItemRow(ItemEditor& editor, int record) {
-    InsertSorted(editor, record);
-    ++editor.lvGegenstände.revision;
+    auto& list = editor.lvGegenstände;
+    const auto cell = [&](int row) { return ItemCell(editor.Record(row), list.sort.column); };
+    const auto before = [&](int left, int right) {
+        if (cell(left) == cell(right))
+            return left < right;
+        return list.sort.descending ? GermanLess(cell(right), cell(left))
+                                    : GermanLess(cell(left), cell(right));
+    };
+    list.rows.insert(std::lower_bound(list.rows.begin(), list.rows.end(), record, before), record);
+    ++list.revision;
 }
 
 void DropItemRow(ItemEditor& editor, int record) {

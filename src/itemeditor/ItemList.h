@@ -9,7 +9,7 @@
 namespace emporium {
 
 /// Columns of the item list.
-enum ItemColumn { ItemNameColumn, ItemPriceColumn, ItemColumnCount };
+enum ItemColumn { ItemNameColumn, ItemPriceColumn };
 
 /// What the list shows for a record: the name without its Wert digit, or the price as stored.
 std::string_view ItemCell(const RecordView& record, int column);

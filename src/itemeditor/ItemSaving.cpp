@@ -16,6 +16,7 @@ constexpr std::string_view NotDeleted = "Der Gegenstand konnte nicht gelöscht w
 constexpr std::string_view NotWhole =
     "Diese Kategorie konnte nicht vollständig gelesen werden, deshalb wird ihre Datei nicht "
     "verändert."_ansi;
+constexpr std::string_view Gone = "Diese Kategorie gibt es nicht mehr. Wählt eine andere."_ansi;
 
 // A change of one row on its way to the disk. The row ItemCount is a new one.
 struct RowChange {
@@ -30,9 +31,18 @@ bool ReportFailure(const Platform& platform, std::string_view what,
     return failure.has_value();
 }
 
-bool ReportNotWhole(const Platform& platform, const std::string& category) {
-    platform.ShowMessage(category + ".dat: " + std::string(NotWhole));
+bool Refuse(const Platform& platform, const std::string& category, std::string_view why) {
+    platform.ShowMessage(category + ".dat: " + std::string(why));
     return false;
+}
+
+// A missing file is made anew, but not for a category that another program has deleted: nobody
+// would find the item there. False, after a box, for such a one.
+bool IsListed(const Platform& platform, const Folders& folders, const std::string& category) {
+    const CategoryList list = ReadCategoryNames(platform.files, folders);
+    return list.state != FileText::State::Whole ||
+           std::find(list.names.begin(), list.names.end(), category) != list.names.end() ||
+           Refuse(platform, category, Gone);
 }
 
 bool AskToReload(const Platform& platform, const std::string& category) {
@@ -51,15 +61,19 @@ bool AskToReload(const Platform& platform, const std::string& category) {
 // on all the same.
 bool MayReplace(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
                 std::string_view what) {
-    const ViewFile file = editor.viewFiles[static_cast<std::size_t>(home)];
+    const ViewFile file = editor.FileAt(home);
     if (!file.canBeWritten)
-        return ReportNotWhole(platform, file.name);
+        return Refuse(platform, file.name, NotWhole);
     if (!ReadyToWrite(platform, folders))
         return false;
     const auto path = CategoryPath(folders, file.name);
     const FileText present = platform.files.read(path);
-    if (present.state == FileText::State::Unreadable)
-        return !ReportFailure(platform, what, FileFailure{path, present.reason});
+    if (present.state == FileText::State::Unreadable) {
+        platform.ShowMessage(FailureText(what, {path, present.reason}));
+        return false;
+    }
+    if (present.state == FileText::State::Absent && !IsListed(platform, folders, file.name))
+        return false;
     if (present.bytes == *file.bytes)
         return true;
     const bool reload = AskToReload(platform, file.name);
@@ -100,17 +114,13 @@ bool RebuildCategoryFiles(ItemEditor& editor, const Platform& platform, const Fo
                           std::string_view what) {
     if (!MayReplace(editor, platform, folders, home, what))
         return false;
-    const ViewFile& file = editor.viewFiles[static_cast<std::size_t>(home)];
+    const ViewFile& file = editor.FileAt(home);
     auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
     others.push_back({CategoryPath(folders, file.name), *text});
     if (ReportFailure(platform, what, WriteFiles(platform.files, folders.EmporiumFolder(), others)))
         return false;
     TakeOver(editor, home, change, std::move(text));
     return true;
-}
-
-int HomeOf(const ItemEditor& editor, int row) {
-    return editor.ItemHomeCategories[static_cast<std::size_t>(row)];
 }
 
 void EndEditing(ItemEditor& editor) {
@@ -128,31 +138,31 @@ void DropRow(ItemEditor& editor, int row) {
 void RemoveItemRow(ItemEditor& editor, const Platform& platform, const Folders& folders,
                    std::vector<FileChange> others, std::string_view what) {
     const int row = editor.CurrentItemRow;
-    if (!RebuildCategoryFiles(editor, platform, folders, HomeOf(editor, row), {row, nullptr},
+    if (!RebuildCategoryFiles(editor, platform, folders, editor.HomeOf(row), {row, nullptr},
                               std::move(others), what))
         return;
     DropRow(editor, row);
     EndEditing(editor);
     UpdateItemButtons(editor);
-    editor.cmdItemSave.enabled = false;
 }
 
 // The file of another category with the record behind its last one. False, after a box, if that
-// file can't be read whole or is full.
+// file can't be read whole or is full, or if the category is gone.
 bool AppendedTo(const Platform& platform, const Folders& folders, const std::string& category,
                 const ItemRecord& record, std::vector<FileChange>& changes) {
     if (!ReadyToWrite(platform, folders))
         return false;
     const CategoryFile file = ReadCategoryFile(platform.files, folders, category);
-    if (file.state == FileText::State::Unreadable)
-        return !ReportFailure(platform, NotSaved,
-                              FileFailure{CategoryPath(folders, category), file.reason});
-    if (!file.CanBeWritten())
-        return ReportNotWhole(platform, category);
-    if (file.records.size() >= MaxRows) {
-        platform.ShowMessage(category + ".dat: " + std::string(CategoryIsFull));
+    if (file.state == FileText::State::Unreadable) {
+        platform.ShowMessage(FailureText(NotSaved, {CategoryPath(folders, category), file.reason}));
         return false;
     }
+    if (!file.CanBeWritten())
+        return Refuse(platform, category, NotWhole);
+    if (file.state == FileText::State::Absent && !IsListed(platform, folders, category))
+        return false;
+    if (file.records.size() >= MaxRows)
+        return Refuse(platform, category, CategoryIsFull);
     changes.push_back({CategoryPath(folders, category), WithRecords(*file.bytes, {record})});
     return true;
 }
@@ -185,16 +195,16 @@ void SaveChanged(ItemEditor& editor, const Platform& platform, const Folders& fo
                  const ItemRecord& record) {
     const int row = editor.CurrentItemRow;
     if (ViewOf(record) != editor.Record(row)) {
-        if (!RebuildCategoryFiles(editor, platform, folders, HomeOf(editor, row), {row, &record},
-                                  {}, NotSaved))
+        if (!RebuildCategoryFiles(editor, platform, folders, editor.HomeOf(row), {row, &record}, {},
+                                  NotSaved))
             return;
         PlaceItemRow(editor, row);
     }
     EndEditing(editor);
 }
 
-void AddToView(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
-               const ItemRecord& record) {
+void SaveIntoView(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
+                  const ItemRecord& record) {
     const int row = editor.ItemCount();
     if (row == MaxRows) {
         platform.ShowMessage("Die Ansicht ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi);
@@ -208,9 +218,9 @@ void AddToView(ItemEditor& editor, const Platform& platform, const Folders& fold
     EndEditing(editor);
 }
 
-// No category is chosen: the item goes to the one of the form, which becomes the view.
-void AddWithoutView(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                    const ItemRecord& record) {
+// The view does not know the category of the form: that becomes the view.
+void SaveOutsideView(ItemEditor& editor, const Platform& platform, const Folders& folders,
+                     const ItemRecord& record) {
     const std::string category = editor.cmbItemKategorien.Text();
     std::vector<FileChange> changes;
     if (!AppendedTo(platform, folders, category, record, changes) ||
@@ -227,9 +237,9 @@ void SaveNew(ItemEditor& editor, const Platform& platform, const Folders& folder
     const bool ownHome = !view.empty() && view != AllCategories;
     const int home = ViewFileOf(editor, ownHome ? view : wanted);
     if (home >= 0)
-        AddToView(editor, platform, folders, home, record);
-    else if (view.empty() && !wanted.empty() && wanted != AllCategories)
-        AddWithoutView(editor, platform, folders, record);
+        SaveIntoView(editor, platform, folders, home, record);
+    else if (!wanted.empty() && wanted != AllCategories)
+        SaveOutsideView(editor, platform, folders, record);
     else
         platform.ShowMessage("Bitte wählt im Feld Kategorie aus, wohin der neue Gegenstand "
                              "gehört."_ansi);

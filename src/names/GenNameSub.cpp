@@ -57,11 +57,8 @@ std::string NameLists::DrawName(std::string_view list) {
     for (std::string_view line; lines.Next(line);)
         names.push_back(line);
     if (names.empty()) {
-        const auto reason = text.state == FileText::State::Absent
-                                ? std::make_error_code(std::errc::no_such_file_or_directory)
-                                : text.reason;
         if (!failure_)
-            failure_ = FileFailure{file, reason};
+            failure_ = FileFailure{file, ReasonOf(text)};
         return {};
     }
     const std::int32_t k = Throw(static_cast<std::int32_t>(names.size()));

@@ -84,16 +84,12 @@ void FitInto(const CategoryFile& category, std::string_view name, std::vector<It
     faults.push_back(std::string(name).append(".dat: ").append(CategoryIsFull));
 }
 
-std::string FaultLine(const std::filesystem::path& file, const std::error_code& reason) {
-    return FromPath(file.filename()) + ": " + ReasonText(reason);
-}
-
 void ImportCategory(const FileLayer& files, const Folders& folders, std::string_view name,
                     const SourceForm& form, std::vector<std::string>& faults) {
     const auto sourceFile = folders.DataFolder / "Arsenal" / CategoryPath(folders, name).filename();
     const FileText source = files.read(sourceFile);
     if (source.state == FileText::State::Unreadable)
-        faults.push_back("Arsenal, " + FaultLine(sourceFile, source.reason));
+        faults.push_back("Arsenal, " + FaultLine({sourceFile, source.reason}));
     if (!source.IsWhole())
         return;
     const CategoryFile category = ReadCategoryFile(files, folders, name);
@@ -108,7 +104,7 @@ void ImportCategory(const FileLayer& files, const Folders& folders, std::string_
         return;
     const auto file = CategoryPath(folders, name);
     if (const auto failure = WriteFile(files, file, WithRecords(*category.bytes, added)))
-        faults.push_back(FaultLine(failure->file, failure->reason));
+        faults.push_back(FaultLine(*failure));
 }
 
 void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_view name,
@@ -120,14 +116,14 @@ void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_v
     if (text.state == FileText::State::Absent)
         return;
     if (!text.IsWhole()) {
-        faults.push_back(FaultLine(older, text.reason));
+        faults.push_back(FaultLine({older, text.reason}));
         return;
     }
     const auto failure =
         WriteFiles(files, folders.EmporiumFolder(),
                    {{CategoryPath(folders, name), text.bytes}, {older, std::nullopt}});
     if (failure)
-        faults.push_back(FaultLine(failure->file, failure->reason));
+        faults.push_back(FaultLine(*failure));
 }
 
 } // namespace

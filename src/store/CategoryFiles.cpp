@@ -1,9 +1,11 @@
 #include "store/CategoryFiles.h"
 
 #include "base/FileFailure.h"
+#include "base/GermanNumber.h"
 #include "base/LineReader.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_set>
 
 namespace emporium {
@@ -54,12 +56,20 @@ std::pair<std::string_view, std::string_view> AroundRecord(std::string_view byte
     return {bytes.substr(0, begin), end == bytes.npos ? "" : bytes.substr(end + 1)};
 }
 
+// What the first line says, nothing if it is no number.
+std::optional<double> CountIn(std::string_view listText) {
+    std::string_view line;
+    LineReader(listText).Next(line);
+    return ReadGermanNumber(line);
+}
+
 std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen = {"", AllCategories};
     LineReader lines(listText);
     std::string_view line;
-    lines.Next(line);
+    if (CountIn(listText))
+        lines.Next(line);
     while (names.size() < limit && lines.Next(line))
         if (seen.insert(line).second)
             names.emplace_back(line);
@@ -68,10 +78,8 @@ std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
 
 // The list's text with the number of its names on the first line.
 std::string Numbered(std::string_view listText) {
-    const auto end = listText.find('\n');
     return " " + std::to_string(NamesIn(listText, listText.size()).size()) + " " +
-           std::string(LineEndOf(listText)) +
-           std::string(end == listText.npos ? "" : listText.substr(end + 1));
+           std::string(LineEndOf(listText)) + std::string(listText.substr(listText.find('\n') + 1));
 }
 
 } // namespace
@@ -112,38 +120,47 @@ std::filesystem::path CategoryPath(const Folders& folders, std::string_view name
 }
 
 bool IsPlainName(std::string_view name) {
-    constexpr std::size_t longest = 100;
-    constexpr std::size_t longestInUtf8 = 230; // file systems take 255 bytes, endings included
     constexpr std::string_view forbidden = "\\/:*?\"<>|";
-    if (name.empty() || name.size() > longest || ToUtf8(name).size() > longestInUtf8 ||
-        IsDeviceName(name))
-        return false;
-    const auto isEdge = [](char c) { return c == ' ' || c == '.'; };
-    if (isEdge(name.front()) || isEdge(name.back()))
-        return false;
-    return std::none_of(name.begin(), name.end(), [&](char c) {
-        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-               forbidden.find(c) != forbidden.npos;
-    });
+    return !name.empty() && !IsDeviceName(name) &&
+           std::none_of(name.begin(), name.end(), [&](char c) {
+               return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+                      forbidden.find(c) != forbidden.npos;
+           });
+}
+
+bool IsOwnFile(std::string_view name) {
+    static const std::array<std::string, 6> own = {
+        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
+        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
+    return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
 }
 
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
     FileText text = files.read(CategoryListPath(folders));
-    CategoryList list{text.state, text.reason, std::move(text.bytes), {}, false};
-    if (text.state == FileText::State::Absent)
-        list.reason = std::make_error_code(std::errc::no_such_file_or_directory);
-    list.names = NamesIn(list.bytes, MaxRows + 1);
-    list.tooLong = list.names.size() > MaxRows;
-    if (list.tooLong)
-        list.names.resize(MaxRows);
+    CategoryList list{text.state, ReasonOf(text), std::move(text.bytes), {}};
+    list.names = NamesIn(list.bytes, MaxRows);
     return list;
+}
+
+std::string CategoryListFault(const CategoryList& list) {
+    constexpr std::string_view file = "ItemKategorien.dat: ";
+    if (list.state != FileText::State::Whole)
+        return std::string(file) + ReasonText(list.reason);
+    const auto count = CountIn(list.bytes);
+    if (count == static_cast<double>(list.names.size()))
+        return {};
+    const std::string counted =
+        count ? std::string("Die erste Zeile zählt "_ansi) + GermanNumberText(*count)
+              : "In der ersten Zeile fehlt die Zahl der";
+    return std::string(file) + counted + " Kategorien, gelesen wurden " +
+           std::to_string(list.names.size()) +
+           std::string(". Berichtigt die Liste in einem Texteditor; bis dahin wird sie nicht "
+                       "verändert."_ansi);
 }
 
 std::string WithCategory(const CategoryList& list, std::string_view name) {
     const std::string_view lineEnd = LineEndOf(list.bytes);
     std::string text = list.bytes;
-    if (text.empty())
-        text += lineEnd;
     EndLastLine(text, lineEnd);
     return Numbered(text.append(name).append(lineEnd));
 }
@@ -162,6 +179,12 @@ std::string WithoutCategory(const CategoryList& list, std::string_view name) {
     return Numbered(text);
 }
 
+bool HasMark(const RecordView& record, ItemField field) {
+    const std::string_view line = record[field];
+    const bool isDigit = !line.empty() && line.back() >= '0' && line.back() <= '9';
+    return !line.empty() && isDigit == (field == NameField);
+}
+
 bool RecordReader::Next(RecordView& record) {
     for (std::size_t field = 0; field < record.size(); ++field)
         if (!lines_.Next(record[field])) {
@@ -175,7 +198,7 @@ CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
                               std::string_view name) {
     FileText text{
         FileText::State::Unreadable, {}, std::make_error_code(std::errc::invalid_argument)};
-    if (IsPlainName(name))
+    if (IsPlainName(name) && !IsOwnFile(name))
         text = files.read(CategoryPath(folders, name));
     CategoryFile file{
         text.state, text.reason, std::make_shared<const std::string>(std::move(text.bytes)), {}};
@@ -217,24 +240,14 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
         add(ReasonText(file.reason));
     if (file.cutOff)
         add("Der letzte Datensatz ist nicht vollständig. Die Datei wird nur angezeigt und nicht verändert."_ansi);
-    const auto flawed =
-        std::count_if(file.records.begin(), file.records.end(), [](const RecordView& r) {
-            return r[NameField].empty() || r[PriceField].empty();
+    const auto unmarked =
+        std::count_if(file.records.begin(), file.records.end(), [](const RecordView& record) {
+            return !HasMark(record, NameField) || !HasMark(record, PriceField);
         });
-    if (flawed > 0)
-        add(std::to_string(flawed) +
-            std::string(" Datensätze haben keinen Namen oder keinen Preis."_ansi));
+    if (unmarked > 0)
+        add(std::string("Datensätze ohne Namen, Wert, Preis oder Währung: "_ansi) +
+            std::to_string(unmarked) + ".");
     return faults;
-}
-
-std::string FaultsText(const std::vector<std::string>& faults) {
-    constexpr std::size_t shown = 12;
-    std::string text = "Nicht alles ist gelungen:\n";
-    for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
-        text += "\n" + faults[i];
-    if (faults.size() > shown)
-        text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
-    return text;
 }
 
 } // namespace emporium

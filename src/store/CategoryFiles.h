@@ -35,6 +35,9 @@ using RecordView = std::array<std::string_view, ItemFieldCount>;
 RecordView ViewOf(const ItemRecord& record);
 ItemRecord CopyOf(const RecordView& record);
 
+/// True if the name line ends in a digit or the price line in something else, as they have to.
+bool HasMark(const RecordView& record, ItemField field);
+
 /// The records of a category file's text, one after the other.
 class RecordReader {
 public:
@@ -74,19 +77,26 @@ std::filesystem::path CategoryPath(const Folders& folders, std::string_view name
 /// True if name + ".dat" leads to a file directly in its folder, on Linux and on Windows.
 bool IsPlainName(std::string_view name);
 
+/// True if name + ".dat" is a file of the folder that is no category, or that is renamed to one at
+/// the next start.
+bool IsOwnFile(std::string_view name);
+
 struct CategoryList {
     FileText::State state = FileText::State::Absent;
     std::error_code reason; // unless whole
     std::string bytes;
     std::vector<std::string> names; // in file order; without empty lines, repetitions and "Alles"
-    bool tooLong = false;           // the file has more than these names
 };
 
-/// The names behind the first line, at most MaxRows. What the first line counts is not looked at.
+/// The names of the list, at most MaxRows. A first line that is no number counts as a name.
 CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders);
 
-/// The bytes of the list with a further name, or without one, and with the right number on its
-/// first line. All other lines stay.
+/// Why the list must not be changed, one line for the user: it could not be read, or has not as
+/// many names as its first line says and may be damaged. Empty if all is well.
+std::string CategoryListFault(const CategoryList& list);
+
+/// The bytes of a list without a fault, with a further name or without one, and with the right
+/// number on its first line. All other lines stay.
 std::string WithCategory(const CategoryList& list, std::string_view name);
 std::string WithoutCategory(const CategoryList& list, std::string_view name);
 
@@ -104,7 +114,8 @@ struct CategoryFile {
     bool CanBeWritten() const { return state != FileText::State::Unreadable && !cutOff; }
 };
 
-/// A category's records. A name that is no plain one is unreadable.
+/// A category's records. A name that is no plain one, or that of a file of another kind, is
+/// unreadable.
 CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
                               std::string_view name);
 
@@ -116,10 +127,7 @@ std::string WithRecordAt(std::string_view bytes, const RecordView& place, const 
 std::string WithoutRecordAt(std::string_view bytes, const RecordView& place);
 
 /// What the user should know of the file, one line for each fault: missing, unreadable, cut off,
-/// records with an empty name or price line. Empty if all is well.
+/// records whose name or price line lacks its mark. Empty if all is well.
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file);
-
-/// The text of one box for all that was noticed.
-std::string FaultsText(const std::vector<std::string>& faults);
 
 } // namespace emporium

@@ -4,18 +4,17 @@
 #include "store/CategoryFiles.h"
 
 #include <algorithm>
-#include <array>
 
 namespace emporium {
 
 namespace {
 
-// Files of the folder that are no category, or are renamed to one at the next start.
-bool IsOwnFile(std::string_view name) {
-    static const std::array<std::string, 6> own = {
-        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
-        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
-    return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
+bool HasGoodForm(std::string_view name) {
+    constexpr std::size_t longest = 100;
+    constexpr std::size_t longestInUtf8 = 230; // file systems take 255 bytes, endings included
+    const auto isEdge = [](char c) { return c == ' ' || c == '.'; };
+    return IsPlainName(name) && name.size() <= longest && ToUtf8(name).size() <= longestInUtf8 &&
+           !isEdge(name.front()) && !isEdge(name.back());
 }
 
 // A file whose name differs at most in case; on Windows that is the same file.
@@ -38,7 +37,7 @@ std::string CategoryNameRefusal(const Folders& folders, const std::vector<std::s
     if (name == AllCategories || std::find(listed.begin(), listed.end(), name) != listed.end())
         return std::string(
             "Diese Kategorie existiert bereits, ihr müsst einen anderen Namen wählen."_ansi);
-    if (!IsPlainName(name))
+    if (!HasGoodForm(name))
         return std::string(
             "Diesen Namen kann keine Datei tragen, ihr müsst einen anderen wählen. Er darf "
             "höchstens 100 Zeichen lang sein, keines der Zeichen \\ / : * ? \" < > | enthalten, "

@@ -218,10 +218,12 @@ TEST(FileWriting, WhatStandsInTheWayIsRefused) {
     const Disk disk;
     fs::permissions(disk.folder / "b.dat", fs::perms::owner_read);
     fs::create_directory(disk.folder / "d.dat");
+    fs::create_hard_link(disk.folder / "a.dat", disk.folder / "e.dat");
     const State before = disk.Look();
     for (const Changes& changes : {Changes{{"a.dat", "neu"}, {"b.dat", "neu"}},
                                    {{"a.dat", "neu"}, {"b.dat", std::nullopt}},
                                    {{"d.dat", "neu"}},
+                                   {{"a.dat", "mit"}, {"e.dat", "ohne"}},
                                    {{"fehlt/a.dat", "neu"}}}) {
         EXPECT_FALSE(disk.Write(changes, SystemFiles()).value());
         EXPECT_EQ(disk.Look(), before);

@@ -3,6 +3,7 @@
 // standard output as it is, one line each, behind the line of the command that it belongs to.
 // faults.py starts this program under faults from outside and looks at what is left on the disk.
 #include "base/Ansi.h"
+#include "base/FileFailure.h"
 #include "documents/PrintHost.h"
 #include "documents/ShopDocument.h"
 #include "frame/frmEmporiumMain.h"

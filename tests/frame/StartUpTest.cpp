@@ -1,7 +1,6 @@
 #include "base/Ansi.h"
 #include "frame/frmEmporiumMain.h"
 #include "itemeditor/CategoryChoice.h"
-#include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -53,39 +52,6 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
     }
 }
 
-// False once there is no n-th operation.
-bool TryStart(Fault fault, int n) {
-    SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at file operation " +
-                 std::to_string(n));
-    Installation here;
-    int boxes = 0;
-    here.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
-    FaultyFiles faulty(fault, n);
-    here.script.platform.files = faulty.files;
-    try {
-        frmEmporiumMain window;
-        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
-        EXPECT_LE(boxes, 1);
-    } catch (const KilledHere&) {
-    }
-    const std::string present = here.program.Read(PresentFile);
-    const bool moved = here.program.Read(OlderFile) == "(absent)";
-    EXPECT_TRUE(present == Older || present == Older + Imported ||
-                (!moved && (present == Replaced || present == Replaced + Imported)))
-        << present;
-    frmEmporiumMain window;
-    here.script.platform.files = QuickFiles();
-    EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
-    here.ExpectUpToDate();
-    return faulty.HasFired();
-}
-
-TEST(Start, AFaultOrAnEndAtAnyMomentLosesNothing) {
-    for (const Fault fault : {Fault::Once, Fault::Lasting, Fault::Killed})
-        for (int n = 1; TryStart(fault, n);)
-            ++n;
-}
-
 TEST(Start, ASecondCopyIsToldAndLeavesTheFirstOnesWorkAlone) {
     Installation here;
     auto first = std::make_unique<frmEmporiumMain>();
@@ -115,13 +81,16 @@ TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing)
     Installation here;
     const Folders& folders = here.program.folders;
     auto& files = here.script.platform.files;
-    for (const auto& locked : {folders.EmporiumFolder(), folders.TempFolder}) {
+    const std::pair<fs::path, std::string_view> notices[] = {
+        {folders.EmporiumFolder(), "Das Programm kann in seinen Ordner nicht schreiben."},
+        {folders.TempFolder, "Das Programm kann in den Ordner Temp nicht schreiben"}};
+    for (const auto& [locked, notice] : notices) {
         files.createNew = [&locked](const auto& file, FileLayer::Handle& handle) {
             return file.parent_path() == locked
                        ? std::make_error_code(std::errc::read_only_file_system)
                        : SystemFiles().createNew(file, handle);
         };
-        here.script.ExpectMessage("Das Programm kann in seinen Ordner nicht schreiben.");
+        here.script.ExpectMessage(notice);
         frmEmporiumMain window;
         EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
         ChooseCategory(window.items, here.script.platform, folders, 1);
@@ -129,6 +98,15 @@ TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing)
         const bool touched = locked == folders.TempFolder;
         EXPECT_EQ(here.program.Read(OlderFile), touched ? "(absent)" : Older);
     }
+}
+
+TEST(Start, SaysThatTheProgramStandsAlone) {
+    Installation here;
+    fs::remove_all(here.program.folders.DataFolder);
+    here.script.ExpectMessage("Neben dem Programm fehlt der Ordner Data.");
+    frmEmporiumMain window;
+    EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+    EXPECT_FALSE(fs::exists(here.program.folders.DataFolder));
 }
 
 } // namespace

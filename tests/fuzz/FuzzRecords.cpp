@@ -80,7 +80,8 @@ void CheckAddition(const CategoryFile& file) {
 void CheckList(std::string_view bytes) {
     constexpr const char* name = "Ganz neue Kategorie";
     const CategoryList list = ReadListBack(bytes);
-    if (std::find(list.names.begin(), list.names.end(), name) != list.names.end())
+    if (!CategoryListFault(list).empty() ||
+        std::find(list.names.begin(), list.names.end(), name) != list.names.end())
         return;
     const CategoryList grown = ReadListBack(WithCategory(list, name));
     Expect(grown.names.size() == list.names.size() + 1 && grown.names.back() == name, "a new name");

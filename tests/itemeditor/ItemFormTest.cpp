@@ -26,6 +26,23 @@ TEST(ItemForm, NumbersTakeOneSignAtTheStartAndOneSeparatorBehindIt) {
     }
 }
 
+TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
+    EditorAtWork world;
+    const std::string sound = Lines({"Dolch2", "", "3S", "", ""});
+    world.program.Write("Emporium/Abakus.dat", sound + Lines({"Schwert", "", "12", "", ""}));
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nAbakus.dat: Datensätze ohne"_ansi);
+    world.View("Abakus");
+    world.Open(0);
+    world.Open(1);
+    EXPECT_FALSE(world.editor.cmdItemSave.enabled);
+    ChooseItemWert(world.editor, 0);
+    world.script.ExpectMessage("Bitte wählt zum Preis"_ansi);
+    world.Save();
+    world.editor.cmbItemPreis.Select(0);
+    world.Save();
+    EXPECT_EQ(world.File("Abakus"), sound + Lines({"Schwert1", "", "12D", "", ""}));
+}
+
 TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
     const EditorAtWork world;
     const auto& platform = world.script.platform;

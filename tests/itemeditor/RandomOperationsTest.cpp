@@ -193,7 +193,9 @@ protected:
         if (yes) {
             std::erase(model.list, model.view);
             model.files.erase(model.view);
-            model.view = model.formCategory = "";
+            if (model.formCategory == model.view)
+                model.formCategory = "";
+            model.view = "";
         }
         DeleteCategory(world.editor, world.script.platform, world.program.folders);
     }

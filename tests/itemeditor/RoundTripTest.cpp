@@ -45,22 +45,5 @@ TEST(RoundTrip, OddButSoundRecordsAndTheShippedFiles) {
     ExpectSameBytes(world);
 }
 
-TEST(RoundTrip, DamagedFilesStayAsTheyAre) {
-    const std::string whole = "Seil1\n80\n3S\n\nBO|\nTau1\n\n2S\n\nWA|";
-    for (std::size_t size = 18; size <= whole.size(); ++size) {
-        EditorAtWork world;
-        int boxes = 0;
-        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
-        world.program.Write("Emporium/Abakus.dat", whole.substr(0, size));
-        for (const std::string_view view : {"Abakus", "Alles"}) {
-            world.View(view);
-            EXPECT_EQ(boxes > 0, size < whole.size() - 2) << size;
-            world.Open("Seil");
-            world.Save();
-            EXPECT_EQ(world.File("Abakus"), whole.substr(0, size));
-        }
-    }
-}
-
 } // namespace
 } // namespace emporium::test

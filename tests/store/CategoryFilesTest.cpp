@@ -17,14 +17,11 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
         std::size_t records;
         bool canBeWritten;
         std::size_t faults;
-    } cases[] = {{"", 0, true, 0},
-                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;;", 2, true, 0},
-                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;WA|", 2, true, 0},
-                 {"Seil1;80;3S;lang;BO|;Öse 22;;1P;;", 1, false, 1},
-                 {"Sei", 0, false, 1},
-                 {"Seil1;80;3S;lang;BO|;;", 1, false, 1},
+    } cases[] = {{"Seil1;80;3S;lang;BO|;Öse 22;;1P;;", 1, false, 1},
                  {";80;3S;lang;BO|;Öse 22;;1P;;;", 2, true, 1},
                  {"Seil1;80;;lang;BO|;Öse 22;;;;;", 2, true, 1},
+                 {"Seil;80;3S;lang;BO|;Öse 22;;1;;;", 2, true, 1},
+                 {"Seil7;80;3X;lang;BO|;Öse 22;;1p;;;", 2, true, 0},
                  {"Seil1;80;;lang;BO|;Rest", 1, false, 2}};
     const ProgramFolder program;
     for (const auto& c : cases)
@@ -32,8 +29,8 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
             std::string bytes = c.bytes;
             for (auto at = bytes.find(';'); at != bytes.npos; at = bytes.find(';'))
                 bytes.replace(at, 1, end);
-            program.Write("Emporium/Seile.dat", bytes);
-            const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, "Seile");
+            program.Write("Emporium/ Seile..dat", bytes); // such a name can't be given any more
+            const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, " Seile.");
             EXPECT_EQ(file.records.size(), c.records) << c.bytes;
             EXPECT_EQ(file.CanBeWritten(), c.canBeWritten) << c.bytes;
             EXPECT_EQ(CategoryFaults("Seile", file).size(), c.faults) << c.bytes;
@@ -43,22 +40,35 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
 TEST(CategoryFiles, AbsentAndUnreadableAreNotEmpty) {
     const ProgramFolder program;
     std::filesystem::create_directory(program.folders.EmporiumFolder() / "Ordner.dat");
-    for (const std::string_view name : {"Ordner", "../Emporium/Ordner", "CON", "", "Fehlt"}) {
+    program.Write("Emporium/ItemKategorien.dat", "");
+    for (const std::string_view name :
+         {"Ordner", "../Emporium/Ordner", "CON", "", "itemKategorien", "Fehlt"}) {
         const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, name);
         EXPECT_EQ(file.CanBeWritten(), name == "Fehlt") << name;
         EXPECT_EQ(CategoryFaults(name, file).size(), 1U) << name;
     }
-    EXPECT_TRUE(ReadCategoryNames(SystemFiles(), program.folders).reason) << "no list";
 }
 
-TEST(CategoryFiles, TheNamesOfTheListCountAndNotItsNumber) {
+TEST(CategoryFiles, AListShowsAllItsNamesAndIsOnlyChangedIfItsNumberIsTheirs) {
+    const struct {
+        std::string bytes;
+        bool isSound;
+    } cases[] = {{" 2 \r\nSeile\r\nTaue\r\n", true},
+                 {"2\nAlles\nSeile\nTaue", true},
+                 {" 2 \r\nSeile\r\nTaue\r\n\r\nSeile\r\n", true},
+                 {"3\r\nSeile\r\nTaue", false},
+                 {"1\r\nSeile\r\nTaue\r\n", false},
+                 {"Seile\r\nTaue\r\n", false},
+                 {"\r\nSeile\r\nTaue\r\n", false}};
     const ProgramFolder program;
-    for (const std::string bytes :
-         {" 2 \r\nSeile\r\nTaue\r\n", "32768\r\nSeile\r\nTaue\r\n", "zwei\r\nSeile\r\nTaue\r\n",
-          "\r\nSeile\r\nTaue\r\n", " 2 \nSeile\nTaue", " 2 \r\nSeile\r\nTaue\r\n\r\nSeile\r\n"}) {
-        program.Write("Emporium/ItemKategorien.dat", bytes);
-        const CategoryList list = ReadCategoryNames(SystemFiles(), program.folders);
-        EXPECT_EQ(list.names, (Names{"Seile", "Taue"})) << bytes;
+    const auto read = [&] { return ReadCategoryNames(SystemFiles(), program.folders); };
+    EXPECT_NE(CategoryListFault(read()), "") << "no list";
+    program.Write("Emporium/ItemKategorien.dat", "");
+    EXPECT_NE(CategoryListFault(read()), "") << "an empty list";
+    for (const auto& c : cases) {
+        program.Write("Emporium/ItemKategorien.dat", c.bytes);
+        EXPECT_EQ(CategoryListFault(read()).empty(), c.isSound) << c.bytes;
+        EXPECT_EQ(read().names, (Names{"Seile", "Taue"})) << c.bytes;
     }
 }
 
