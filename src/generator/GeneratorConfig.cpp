@@ -11,11 +11,10 @@ namespace {
 
 FileText ReadConfigFile(const FileLayer& files, const Folders& folders, const char* name,
                         std::vector<std::string>& faults) {
-    FileText text = files.read(folders.EmporiumFolder() / name);
-    if (text.state == FileText::State::Absent)
-        faults.push_back(std::string(name) + ": Die Datei fehlt.");
-    if (text.state == FileText::State::Unreadable)
-        faults.push_back(std::string(name) + ": " + ReasonText(text.reason));
+    const auto file = folders.EmporiumFolder() / name;
+    FileText text = files.read(file);
+    if (!text.IsWhole())
+        faults.push_back(FaultLine({file, ReasonOf(text)}));
     return text;
 }
 
@@ -29,7 +28,7 @@ std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& fo
     for (std::string_view line; types.size() < MaxRows && lines.Next(line);)
         types.emplace_back(line);
     if (text.IsWhole() && types.empty())
-        faults.push_back("ShopgeneratorShops.dat: " + ReasonText({}));
+        faults.push_back(FaultLine({"ShopgeneratorShops.dat", {}}));
     if (!lines.AtEnd())
         faults.emplace_back("ShopgeneratorShops.dat: Es werden nur die ersten 32767 Shoparten "
                             "gezeigt.");

@@ -76,11 +76,12 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Region
                             "oder sie nennt keine Zahl.");
     for (int n = 1; n <= count.value_or(0); ++n) {
         const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
-        if (!IsPlainName(name) || !FileExists(CategoryPath(folders, name)))
+        const auto file = CategoryPath(folders, name);
+        if (!IsPlainName(name) || !FileExists(file))
             continue;
-        const FileText category = platform.files.read(CategoryPath(folders, name));
+        const FileText category = platform.files.read(file);
         if (category.state == FileText::State::Unreadable)
-            faults.push_back(name + ".dat: " + ReasonText(category.reason));
+            faults.push_back(FaultLine({file, category.reason}));
         RecordReader reader(category.bytes);
         if (!DrawCategory(reader, wishes, regions, platform.RollDice, shop)) {
             faults.emplace_back(ShopFullText);
