@@ -16,12 +16,10 @@ namespace emporium {
 
 enum class BoxIcon { Question, Warning };
 
-/// A box with the buttons Yes, the default, and No. Without a caption of its own it bears the name
-/// that the platform gives the application.
+/// A box with the buttons Yes, the default, and No, captioned with ProgramTitle.
 struct YesNoBox {
     std::string text;
     BoxIcon icon = BoxIcon::Question;
-    std::string caption;
     bool closingMeansYes = false; // where No is the answer that can't be taken back
 };
 

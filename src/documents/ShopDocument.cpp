@@ -78,8 +78,7 @@ void ExportShop(const ShopEditor& shop, const Platform& platform, const Folders&
         return;
     }
     if (platform.AskYesNo(
-            {"Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?.",
-             BoxIcon::Question, std::string(ProgramTitle)}))
+            {"Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?."}))
         platform.OpenInViewer(target);
 }
 

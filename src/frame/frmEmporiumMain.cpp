@@ -22,7 +22,7 @@ bool AskDespiteOtherCopy(const Platform& platform) {
         {std::string("Orvan-Emporium 3 läuft schon und benutzt dieselben Daten. Was ihr in einem "
                      "der Fenster ändert, zeigt das andere erst, wenn ihr dort die Kategorie noch "
                      "einmal wählt.\n\nWollt ihr trotzdem weitermachen ?"_ansi),
-         BoxIcon::Warning, std::string(ProgramTitle)});
+         BoxIcon::Warning});
 }
 
 constexpr std::string_view NoChanges =

@@ -26,7 +26,7 @@ void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfor
         !platform.AskYesNo({std::string("Ihr arbeitet momentan an einem Shop, beim Start des "
                                         "Generators werden sämtliche Werte verworfen ! Wollt ihr "
                                         "den Generator wirklich starten ?"_ansi),
-                            BoxIcon::Warning, std::string(ProgramTitle)}))
+                            BoxIcon::Warning}))
         return;
     dialog = frmEmporiumGenerator();
     std::vector<std::string> faults;

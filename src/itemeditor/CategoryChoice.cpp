@@ -224,8 +224,7 @@ void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& fo
 void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders& folders) {
     const std::string name = editor.cmbKategorien.Text();
     if (!platform.AskYesNo(
-            {std::string("Soll die gewählte Kategorie wirklich gelöscht werden ?"_ansi),
-             BoxIcon::Question, std::string(ProgramTitle)}))
+            {std::string("Soll die gewählte Kategorie wirklich gelöscht werden ?"_ansi)}))
         return;
     CategoryList list;
     if (!ReadListToChange(platform, folders, NotDeleted, list))

@@ -54,7 +54,7 @@ bool AskToReload(const Platform& platform, const std::string& category) {
                          "Eingaben bleiben im Formular.\n"
                          "Nein: Der Stand dieses Fensters wird gespeichert, die andere Änderung "
                          "geht verloren."_ansi),
-         BoxIcon::Warning, std::string(ProgramTitle), true});
+         BoxIcon::Warning, true});
 }
 
 // True if the file may be written: it holds what was last read or written, or the user wants to go
@@ -183,8 +183,7 @@ bool CountsAsMoved(const ItemEditor& editor) {
 void SaveMoved(ItemEditor& editor, const Platform& platform, const Folders& folders) {
     const bool yes = platform.AskYesNo(
         {std::string("Ihr habt die Kategorie des Gegenstandes geändert, soll er wirklich einer "
-                     "anderen Kategorie zugeordnet werden ?"_ansi),
-         BoxIcon::Question, std::string(ProgramTitle)});
+                     "anderen Kategorie zugeordnet werden ?"_ansi)});
     if (yes)
         MoveItem(editor, platform, folders);
     else
@@ -264,9 +263,7 @@ void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform, const Folde
     if (editor.CurrentItemRow < 0)
         return;
     if (platform.AskYesNo(
-            {std::string("Wollt ihr den gewählten Gegenstand wirklich löschen ?"_ansi),
-             BoxIcon::Question,
-             {}}))
+            {std::string("Wollt ihr den gewählten Gegenstand wirklich löschen ?"_ansi)}))
         RemoveItemRow(editor, platform, folders, {}, NotDeleted);
 }
 

@@ -27,8 +27,7 @@ bool AskYesNo(QWidget& window, const YesNoBox& box) {
     question.setTextFormat(Qt::PlainText);
     question.setText(ToQString(box.text));
     question.setIcon(box.icon == BoxIcon::Warning ? QMessageBox::Warning : QMessageBox::Question);
-    question.setWindowTitle(box.caption.empty() ? QApplication::applicationDisplayName()
-                                                : ToQString(box.caption));
+    question.setWindowTitle(ToQString(ProgramTitle));
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::Yes);
     question.setEscapeButton(box.closingMeansYes ? QMessageBox::Yes : QMessageBox::No);
