@@ -174,6 +174,7 @@ TEST_F(StarterData, TheArsenalIsFilledAndIsWhatTheFixedCategoriesHold) {
     const std::map<std::string_view, std::size_t> atLeast = {
         {"Nahkampfwaffen", 60}, {"Fernwaffen", 25}, {"Rüstungen"_ansi, 35}};
     const ProgramFolder empty;
+    fs::remove(empty.folders.DataFolder / "Arsenal");
     fs::copy(folders.DataFolder / "Arsenal", empty.folders.DataFolder / "Arsenal");
     std::vector<std::string> faults;
     ImportArsenal(files, empty.folders, faults);
