@@ -2,7 +2,6 @@
 #include "Table.h"
 #include "World.h"
 
-#include "base/GermanOrder.h"
 #include "documents/ItemListDocument.h"
 #include "documents/ShopDocument.h"
 #include "generator/GeneratorConfig.h"
@@ -10,37 +9,12 @@
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemList.h"
 #include "names/GenNameSub.h"
-#include "shopeditor/ShopList.h"
-#include "shopeditor/ShopPricing.h"
 
 #include <algorithm>
 #include <array>
-#include <ctime>
 
 namespace emporium::bench {
 namespace {
-
-constexpr int Categories = 50;
-
-float Clock() {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return static_cast<float>(now.tv_sec % 86400) + static_cast<float>(now.tv_nsec) * 1e-9F;
-}
-
-std::unique_ptr<ShopRow> Ware(int number) {
-    const ItemRecord r = World::Record(number);
-    return MakeShopRow(r[NameField], r[WeightField], r[PriceField], r[AvailabilityField]);
-}
-
-ShopEditor FilledShop(std::int64_t rows) {
-    ShopEditor shop;
-    for (int i = 0; i < rows; ++i)
-        shop.lvLaden.rows.push_back(Ware(i));
-    ArrangeShopList(shop);
-    UpdateShopButtons(shop);
-    return shop;
-}
 
 // A generator run over all of a world's items.
 class GeneratorRun {
@@ -71,13 +45,13 @@ public:
 private:
     World world_;
     bool regionCounts_;
-    Dice dice_{Clock};
+    Dice dice_{SecondsSinceMidnight};
     RegionTable regions_ = RegionInit();
     ShopEditor shop_;
     frmEmporiumGenerator dialog_;
 };
 
-void RunGenerator(benchmark::State& state, bool regionCounts) {
+void Generate(bool regionCounts, benchmark::State& state) {
     GeneratorRun run(state.range(0), regionCounts);
     for (auto _ : state) {
         state.PauseTiming();
@@ -87,59 +61,31 @@ void RunGenerator(benchmark::State& state, bool regionCounts) {
     }
 }
 
-void Generator(benchmark::State& state) {
-    Beside(state, "BoundDice");
-    RunGenerator(state, false);
-}
-
-void GeneratorWithRegion(benchmark::State& state) {
-    Beside(state, "BoundDiceWithRegion");
-    RunGenerator(state, true);
-}
-
 // As many throws as a run takes.
-void ThrowDice(benchmark::State& state, bool regionCounts) {
+void ThrowDice(bool regionCounts, benchmark::State& state) {
     GeneratorRun run(state.range(0), regionCounts);
     run.Prepare();
     run.Run();
-    Dice dice(Clock);
+    Dice dice(SecondsSinceMidnight);
     for (auto _ : state)
         for (std::int64_t i = 0; i < run.throws; ++i)
             benchmark::DoNotOptimize(dice.RollDice(6));
 }
 
-void BoundDice(benchmark::State& state) {
-    ThrowDice(state, false);
-}
-
-void BoundDiceWithRegion(benchmark::State& state) {
-    ThrowDice(state, true);
-}
-
-void PriceLevel(benchmark::State& state) {
-    ShopEditor shop = FilledShop(state.range(0));
-    int level = 0;
-    for (auto _ : state)
-        ChoosePriceLevel(shop, level++ % 5);
-}
-
-void SortShop(benchmark::State& state) {
-    Beside(state, "BoundSort");
-    ShopEditor shop = FilledShop(state.range(0));
-    int column = 0;
-    for (auto _ : state)
-        SortShopList(shop, column = ShopPriceColumn - column);
-}
-
-void SortItems(benchmark::State& state) {
-    Beside(state, "BoundSort");
-    World world(static_cast<int>(state.range(0)), Categories);
+ItemEditor AllItems(std::int64_t items) {
+    const World world(static_cast<int>(items), Categories);
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
     LoadItems(editor, world.platform, world.folders);
+    return editor;
+}
+
+// By name and by price in turn.
+template <typename Editor>
+void Sort(benchmark::State& state, Editor editor, void (*sort)(Editor&, int), int priceColumn) {
     int column = 0;
     for (auto _ : state)
-        SortItemList(editor, column = ItemPriceColumn - column);
+        sort(editor, column = priceColumn - column);
 }
 
 // The texts of both columns in turn, as they are.
@@ -158,35 +104,6 @@ void BoundSort(benchmark::State& state) {
     }
 }
 
-// Both of a row at any place, in a shop that keeps its size.
-void AddShopRowBench(benchmark::State& state) {
-    ShopEditor shop = FilledShop(state.range(0) - 1);
-    int number = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        auto ware = Ware(++number);
-        state.ResumeTiming();
-        AddShopRow(shop, std::move(ware));
-        state.PauseTiming();
-        ChooseShopRow(shop, number * 7919 % shop.ShopCount());
-        RemoveShopRow(shop);
-        state.ResumeTiming();
-    }
-}
-
-void RemoveShopRowBench(benchmark::State& state) {
-    ShopEditor shop = FilledShop(state.range(0));
-    int number = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        if (shop.ShopCount() < state.range(0))
-            AddShopRow(shop, Ware(number));
-        ChooseShopRow(shop, ++number * 7919 % shop.ShopCount());
-        state.ResumeTiming();
-        RemoveShopRow(shop);
-    }
-}
-
 // The first row again and again, which has all others move up.
 void Remove10000ShopRows(benchmark::State& state) {
     for (auto _ : state) {
@@ -199,88 +116,58 @@ void Remove10000ShopRows(benchmark::State& state) {
     }
 }
 
-void ShopExport(benchmark::State& state) {
-    const ShopEditor shop = FilledShop(state.range(0));
+template <typename Editor>
+void WriteDocument(benchmark::State& state, const Editor& editor,
+                   void (*write)(const Editor&, std::string&)) {
     std::string document;
     for (auto _ : state) {
         document.clear();
-        WriteShopExport(shop, document);
+        write(editor, document);
         benchmark::DoNotOptimize(document);
     }
 }
 
-void ShopPrint(benchmark::State& state) {
-    const ShopEditor shop = FilledShop(state.range(0));
-    std::string document;
-    for (auto _ : state) {
-        document.clear();
-        WriteShopPrint(shop, document);
-        benchmark::DoNotOptimize(document);
-    }
-}
-
-void ItemListDocument(benchmark::State& state) {
-    World world(static_cast<int>(state.range(0)), Categories);
-    ItemEditor editor;
-    editor.cmbKategorien.Select(0);
-    LoadItems(editor, world.platform, world.folders);
-    std::string document;
-    for (auto _ : state) {
-        document.clear();
-        WriteItemList(editor, document);
-        benchmark::DoNotOptimize(document);
-    }
+std::string Numbered(std::string_view name, std::string_view behind, std::int64_t lines) {
+    std::string text;
+    for (int i = 0; i < lines; ++i)
+        text.append(name).append(std::to_string(i)).append(behind).append("\r\n");
+    return text;
 }
 
 std::string Settings(std::int64_t keys) {
-    std::string text = "[Region]\r\n";
-    for (int i = 0; i < keys; ++i)
-        text += "Key" + std::to_string(i) + "=Wert " + std::to_string(i) + "\r\n";
-    return text;
+    return "[Region]\r\n" + Numbered("Key", "=Wert", keys);
 }
 
 std::string Names(std::int64_t names) {
-    std::string text;
-    for (int i = 0; i < names; ++i)
-        text += "Alrike" + std::to_string(i) + "\r\n";
-    return text;
+    return Numbered("Alrike", "", names);
 }
 
-void ReadIniValueBench(benchmark::State& state) {
-    Beside(state, "BoundReadSettings");
+void ReadSetting(benchmark::State& state) {
     const World world(0, 1);
     const auto file = world.WriteData("Settings.dat", Settings(state.range(0)));
     for (auto _ : state)
         benchmark::DoNotOptimize(ReadIniValue(world.platform.files, file, "Region", "Key17"));
 }
 
-void BoundReadSettings(benchmark::State& state) {
-    const World world(0, 1);
-    const auto file = world.WriteData("Settings.dat", Settings(state.range(0)));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(CountLines(world.platform.files, file));
-}
-
 // A name of two lists.
-void GenNameBench(benchmark::State& state) {
-    Beside(state, "BoundReadNames");
+void DrawName(benchmark::State& state) {
     const World world(0, 1);
     for (const auto list : {"GarethWeiblich.dat", "GarethNachname.dat"})
         world.WriteData(std::filesystem::path("Borough") / list, Names(state.range(0)));
-    Dice dice(Clock);
+    Dice dice(SecondsSinceMidnight);
     const Die die = [&dice](std::int32_t n) { return dice.RollDice(n); };
     for (auto _ : state) {
         NameLists lists(world.platform.files, world.folders, die);
         std::string sex = "Weiblich";
-        benchmark::DoNotOptimize(GenName(lists, die, "Gareth", sex));
+        benchmark::DoNotOptimize(GenName(lists, "Gareth", sex));
     }
 }
 
-void BoundReadNames(benchmark::State& state) {
+void Read(benchmark::State& state, const std::string& text, int times) {
     const World world(0, 1);
-    const auto file = world.WriteData("Names.dat", Names(state.range(0)));
+    const auto file = world.WriteData("Lines.dat", text);
     for (auto _ : state)
-        for (int list = 0; list < 2; ++list)
+        for (int time = 0; time < times; ++time)
             benchmark::DoNotOptimize(CountLines(world.platform.files, file));
 }
 
@@ -295,29 +182,32 @@ void CategoryList(benchmark::State& state) {
     }
 }
 
-BENCHMARK(Generator)->Apply(Sizes);
-BENCHMARK(BoundDice)->Apply(Sizes);
-BENCHMARK(GeneratorWithRegion)->Apply(Sizes);
-BENCHMARK(BoundDiceWithRegion)->Apply(Sizes);
-BENCHMARK(SortShop)->Apply(Sizes);
-BENCHMARK(SortItems)->Apply(Sizes);
-BENCHMARK(BoundSort)->Apply(Sizes);
-BENCHMARK(PriceLevel)->Apply(Sizes);
-BENCHMARK(AddShopRowBench)->Name("AddShopRow")->Apply(Sizes);
-BENCHMARK(RemoveShopRowBench)->Name("RemoveShopRow")->Apply(Sizes);
-BENCHMARK(Remove10000ShopRows)->Arg(32767);
-BENCHMARK(ShopExport)->Apply(Sizes);
-BENCHMARK(ShopPrint)->Apply(Sizes);
-BENCHMARK(ItemListDocument)->Apply(Sizes);
-BENCHMARK(ReadIniValueBench)->Name("ReadIniValue")->Apply(Sizes);
-BENCHMARK(BoundReadSettings)->Apply(Sizes);
-BENCHMARK(GenNameBench)->Name("GenName")->Apply(Sizes);
-BENCHMARK(BoundReadNames)->Apply(Sizes);
-BENCHMARK(CategoryList)->Apply(Sizes);
+using State = benchmark::State;
+
+const std::vector<Measurement> Measurements = {
+    {"Generator", "BoundDice", std::bind_front(Generate, false)},
+    {"BoundDice", "", std::bind_front(ThrowDice, false)},
+    {"GeneratorWithRegion", "BoundDiceWithRegion", std::bind_front(Generate, true)},
+    {"BoundDiceWithRegion", "", std::bind_front(ThrowDice, true)},
+    {"SortShop", "BoundSort",
+     [](State& s) { Sort(s, FilledShop(s.range(0)), SortShopList, ShopPriceColumn); }},
+    {"SortItems", "BoundSort",
+     [](State& s) { Sort(s, AllItems(s.range(0)), SortItemList, ItemPriceColumn); }},
+    {"BoundSort", "", BoundSort},
+    {"Remove10000ShopRows", "", Remove10000ShopRows, false, {32767}},
+    {"ShopExport", "", [](State& s) { WriteDocument(s, FilledShop(s.range(0)), WriteShopExport); }},
+    {"ShopPrint", "", [](State& s) { WriteDocument(s, FilledShop(s.range(0)), WriteShopPrint); }},
+    {"ItemListDocument", "",
+     [](State& s) { WriteDocument(s, AllItems(s.range(0)), WriteItemList); }},
+    {"ReadIniValue", "BoundReadSettings", ReadSetting},
+    {"BoundReadSettings", "", [](State& s) { Read(s, Settings(s.range(0)), 1); }},
+    {"GenName", "BoundReadNames", DrawName},
+    {"BoundReadNames", "", [](State& s) { Read(s, Names(s.range(0)), 2); }},
+    {"CategoryList", "", CategoryList}};
 
 } // namespace
 } // namespace emporium::bench
 
 int main(int argc, char** argv) {
-    emporium::bench::RunAll(argc, argv);
+    emporium::bench::RunAll(argc, argv, emporium::bench::Measurements);
 }

@@ -15,17 +15,14 @@
 namespace emporium::bench {
 namespace {
 
-constexpr int Categories = 50;
-
 void ReadCategory(benchmark::State& state) {
-    Beside(state, "BoundReadCategory");
     const World world(static_cast<int>(state.range(0)), 1);
     for (auto _ : state)
         benchmark::DoNotOptimize(
             ReadCategoryFile(world.platform.files, world.folders, CategoryName(0)));
 }
 
-void CountLinesOfAll(benchmark::State& state, int categories) {
+void Read(int categories, benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), categories);
     for (auto _ : state)
         for (int c = 0; c < categories; ++c)
@@ -33,13 +30,8 @@ void CountLinesOfAll(benchmark::State& state, int categories) {
                 CountLines(world.platform.files, CategoryPath(world.folders, CategoryName(c))));
 }
 
-void BoundReadCategory(benchmark::State& state) {
-    CountLinesOfAll(state, 1);
-}
-
 // The list is sorted, too.
 void LoadAlles(benchmark::State& state) {
-    Beside(state, "BoundReadAlles");
     World world(static_cast<int>(state.range(0)), Categories);
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
@@ -47,10 +39,6 @@ void LoadAlles(benchmark::State& state) {
         LoadItems(editor, world.platform, world.folders);
     if (editor.ItemCount() != state.range(0))
         state.SkipWithError("not all items were loaded");
-}
-
-void BoundReadAlles(benchmark::State& state) {
-    CountLinesOfAll(state, Categories);
 }
 
 // Writes and flushes the bytes where nothing was before.
@@ -66,7 +54,6 @@ void WriteAndFlush(const FileLayer& files, const std::filesystem::path& file,
 }
 
 void WriteCategory(benchmark::State& state) {
-    Beside(state, "BoundWriteCategory");
     const World world(static_cast<int>(state.range(0)), 1);
     const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
     for (auto _ : state) {
@@ -76,19 +63,15 @@ void WriteCategory(benchmark::State& state) {
     }
 }
 
-void BoundWrite(benchmark::State& state, int categories) {
+void Write(int categories, benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), categories);
     const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
     for (auto _ : state)
         WriteAndFlush(world.platform.files, world.folders.TempFolder / "bytes.dat", *file.bytes);
 }
 
-void BoundWriteCategory(benchmark::State& state) {
-    BoundWrite(state, 1);
-}
-
 // A changed item, in a view of one category or of all.
-void Save(benchmark::State& state, int categories, int view) {
+void Save(int categories, int view, benchmark::State& state) {
     World world(static_cast<int>(state.range(0)), categories);
     ItemEditor editor;
     std::vector<std::string> faults;
@@ -100,20 +83,6 @@ void Save(benchmark::State& state, int categories, int view) {
         EditItemText(editor, WeightText, std::to_string(++change));
         SaveItem(editor, world.platform, world.folders);
     }
-}
-
-void SaveInCategory(benchmark::State& state) {
-    Beside(state, "BoundWriteCategory");
-    Save(state, 1, 1);
-}
-
-void SaveInAlles(benchmark::State& state) {
-    Beside(state, "BoundWriteOneOf50");
-    Save(state, Categories, 0);
-}
-
-void BoundWriteOneOf50(benchmark::State& state) {
-    BoundWrite(state, Categories);
 }
 
 // Source records by the form of the armour file: 19 lines behind a line that is passed over.
@@ -150,7 +119,6 @@ private:
 };
 
 void Import(benchmark::State& state) {
-    Beside(state, "BoundImport");
     const ImportWorld import(state.range(0));
     std::vector<std::string> faults;
     for (auto _ : state) {
@@ -181,17 +149,22 @@ void BoundImport(benchmark::State& state) {
     }
 }
 
-BENCHMARK(ReadCategory)->Apply(Sizes);
-BENCHMARK(BoundReadCategory)->Apply(Sizes);
-BENCHMARK(LoadAlles)->Apply(Sizes);
-BENCHMARK(BoundReadAlles)->Apply(Sizes);
-BENCHMARK(WriteCategory)->Apply(Sizes)->UseRealTime();
-BENCHMARK(SaveInCategory)->Apply(Sizes)->UseRealTime();
-BENCHMARK(BoundWriteCategory)->Apply(Sizes)->UseRealTime();
-BENCHMARK(SaveInAlles)->Apply(Sizes)->UseRealTime();
-BENCHMARK(BoundWriteOneOf50)->Apply(Sizes)->UseRealTime();
-BENCHMARK(Import)->Apply(Sizes)->UseRealTime();
-BENCHMARK(BoundImport)->Apply(Sizes)->UseRealTime();
+const std::vector<Measurement> Measurements = {
+    {"ReadCategory", "BoundReadCategory", ReadCategory},
+    {"BoundReadCategory", "", std::bind_front(Read, 1)},
+    {"LoadAlles", "BoundReadAlles", LoadAlles},
+    {"BoundReadAlles", "", std::bind_front(Read, Categories)},
+    {"WriteCategory", "BoundWriteCategory", WriteCategory, true},
+    {"SaveInCategory", "BoundWriteCategory", std::bind_front(Save, 1, 1), true},
+    {"BoundWriteCategory", "", std::bind_front(Write, 1), true},
+    {"SaveInAlles", "BoundWriteOneOf50", std::bind_front(Save, Categories, 0), true},
+    {"BoundWriteOneOf50", "", std::bind_front(Write, Categories), true},
+    {"Import", "BoundImport", Import, true},
+    {"BoundImport", "", BoundImport, true}};
 
 } // namespace
 } // namespace emporium::bench
+
+int main(int argc, char** argv) {
+    emporium::bench::RunAll(argc, argv, emporium::bench::Measurements);
+}

@@ -1,12 +1,9 @@
 #include "Table.h"
 
-#include <cstdint>
 #include <iomanip>
 #include <iostream>
 #include <map>
 #include <sstream>
-#include <string>
-#include <vector>
 
 namespace emporium::bench {
 
@@ -86,11 +83,12 @@ private:
     std::map<std::int64_t, Operation> operations_; // in the order in which they are declared
 };
 
-} // namespace
-
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->Arg(500)->Arg(5000)->Arg(32767);
+void Measure(benchmark::State& state, const Measurement& measurement) {
+    state.SetLabel(measurement.bound);
+    measurement.run(state);
 }
+
+} // namespace
 
 std::string Digits(double value) {
     const int decimals = value < 1 ? 3 : value < 10 ? 2 : value < 100 ? 1 : 0;
@@ -100,13 +98,16 @@ std::string Digits(double value) {
     return text.str();
 }
 
-void Beside(benchmark::State& state, const char* bound) {
-    state.SetLabel(bound);
-}
-
-void RunAll(int argc, char** argv) {
+void RunAll(int argc, char** argv, const std::vector<Measurement>& measurements) {
     benchmark::SetDefaultTimeUnit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
+    for (const Measurement& measurement : measurements) {
+        auto* declared = benchmark::RegisterBenchmark(measurement.name, Measure, measurement);
+        for (const std::int64_t size : measurement.sizes)
+            declared->Arg(size);
+        if (measurement.wallClock)
+            declared->UseRealTime();
+    }
     Reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.PrintTable(std::cout);

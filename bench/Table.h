@@ -4,20 +4,25 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace emporium::bench {
 
-/// The sizes that the program is made for, and its limit.
-void Sizes(benchmark::internal::Benchmark* benchmark);
-
-/// Names the benchmark beside which, at the same size or at none, this one is set.
-void Beside(benchmark::State& state, const char* bound);
+struct Measurement {
+    const char* name;
+    const char* bound; // the measurement of the same size, or of none, that this one is set beside
+    std::function<void(benchmark::State& state)> run;
+    bool wallClock = false;
+    std::vector<std::int64_t> sizes = {500, 5000, 32767}; // what the program is made for; its limit
+};
 
 /// Three digits of the number, with a point on every desktop.
 std::string Digits(double value);
 
-/// Runs the benchmarks. Their progress goes to the standard error, the table to the output.
-void RunAll(int argc, char** argv);
+/// Takes the measurements. Their progress goes to the standard error, the table to the output.
+void RunAll(int argc, char** argv, const std::vector<Measurement>& measurements);
 
 } // namespace emporium::bench

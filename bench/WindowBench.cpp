@@ -4,7 +4,6 @@
 #include "World.h"
 
 #include "documents/ShopDocument.h"
-#include "shopeditor/ShopList.h"
 #include "ui/Application.h"
 #include "ui/MainWindow.h"
 #include "ui/Text.h"
@@ -19,7 +18,6 @@
 #include <QTimer>
 
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <iostream>
 
@@ -29,7 +27,8 @@ namespace {
 // The window over a world, used as a user uses it.
 class Desk {
 public:
-    explicit Desk(std::int64_t items) : world(static_cast<int>(items), 50), window(world.root) {
+    explicit Desk(std::int64_t items)
+        : world(static_cast<int>(items), Categories), window(world.root) {
         window.show();
         Choose("cmbKategorien", "Alles");
         Paint();
@@ -99,13 +98,6 @@ private:
     }
 };
 
-struct Handler {
-    const char* name;
-    std::function<void(Desk& desk)> prepare;
-    std::function<void(Desk& desk, int turn)> run;
-    bool writes = false;
-};
-
 void PrepareShop(Desk& desk) {
     desk.Click("cmdShopEditor");
     desk.Generate();
@@ -116,62 +108,19 @@ void PrepareItem(Desk& desk) {
     desk.PickRow("lvGegenstände", desk.Rows("lvGegenstände") / 2);
 }
 
-const std::vector<Handler>& Handlers() {
-    static const std::vector<Handler> handlers = {
-        {"ChooseAlles", [](Desk&) {}, [](Desk& d, int) { d.Choose("cmbKategorien", "Alles"); }},
-        {"ClickItemHeader", PrepareItem,
-         [](Desk& d, int turn) { d.ClickHeader("lvGegenstände", turn % 2); }},
-        {"PickItem", PrepareItem,
-         [](Desk& d, int turn) { d.PickRow("lvGegenstände", turn % d.Rows("lvGegenstände")); }},
-        {"SearchByLetter", PrepareItem,
-         [](Desk& d, int turn) { d.Press("lvGegenstände", 0, QString(QChar('a' + turn % 26))); }},
-        {"TypeIntoField", PrepareItem,
-         [](Desk& d, int turn) { d.Press("txtItem3", 0, QString(QChar('a' + turn % 26))); }},
-        {"TickAvailability", PrepareItem,
-         [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdAlleHin" : "cmdAlleZurück"); }},
-        {"SaveItem", PrepareItem,
-         [](Desk& d, int turn) {
-             d.PickRow("lvGegenstände", turn % d.Rows("lvGegenstände"));
-             d.Find<QLineEdit>("txtItem1")->setText(QString::number(1000 + turn));
-             d.Click("cmdItemSave");
-         },
-         true},
-        {"DeleteItem", PrepareItem,
-         [](Desk& d, int) {
-             d.AnswerNext();
-             d.Click("cmdItemDelete");
-         },
-         true},
-        {"SwitchMode", PrepareShop,
-         [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdItemEditor" : "cmdShopEditor"); }},
-        {"AddWare",
-         [](Desk& d) {
-             PrepareShop(d);
-             PrepareItem(d);
-         },
-         [](Desk& d, int) { d.Click("cmdItemHin"); }},
-        {"RemoveWare", PrepareShop, [](Desk& d, int) { d.Press("lvLaden", Qt::Key_Delete); }},
-        {"ClickShopHeader", PrepareShop,
-         [](Desk& d, int turn) { d.ClickHeader("lvLaden", turn % 2); }},
-        {"ChoosePriceLevel", PrepareShop,
-         [](Desk& d, int turn) {
-             auto* levels = d.Find<QComboBox>("cmbShopPreise");
-             emit levels->activated(turn % levels->count());
-         }},
-        {"GenerateShop", PrepareShop, [](Desk& d, int) { d.Generate(); }},
-    };
-    return handlers;
-}
-
-void Measure(benchmark::State& state, const Handler& handler) {
-    Desk desk(state.range(0));
-    handler.prepare(desk);
-    desk.Paint();
-    int turn = 0;
-    for (auto _ : state) {
-        handler.run(desk, turn++);
+// An operation of the user, from the click to the painted result.
+std::function<void(benchmark::State&)> OnDesk(const std::function<void(Desk& desk)>& prepare,
+                                              const std::function<void(Desk&, int turn)>& run) {
+    return [prepare, run](benchmark::State& state) {
+        Desk desk(state.range(0));
+        prepare(desk);
         desk.Paint();
-    }
+        int turn = 0;
+        for (auto _ : state) {
+            run(desk, turn++);
+            desk.Paint();
+        }
+    };
 }
 
 // A window in a process of its own, from its start to its end, which follows its first frame: that
@@ -186,13 +135,9 @@ double RunWindow(const std::filesystem::path& folder, const std::string& categor
     return std::stoi(kilobytes.data()) / 1024.0;
 }
 
-void Start(benchmark::State& state, const std::filesystem::path& folder) {
-    using Clock = std::chrono::steady_clock;
-    for (auto _ : state) {
-        const auto start = Clock::now();
+void Start(const std::filesystem::path& folder, benchmark::State& state) {
+    for (auto _ : state)
         RunWindow(folder);
-        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
-    }
 }
 
 // A copy of the starter folder that has been started before.
@@ -208,27 +153,16 @@ public:
     const std::filesystem::path root = ui::PathFrom(folder_.filePath("program"));
 };
 
-void StartEmptyWindow(benchmark::State& state) {
-    Start(state, "empty");
-}
-
 void StartProgram(benchmark::State& state) {
-    Beside(state, "StartEmptyWindow");
     const StarterWorld world;
-    Start(state, world.root);
+    Start(world.root, state);
 }
 
 void PrintPdf(benchmark::State& state) {
     const QTemporaryDir folder;
     const World world(1, 1);
-    ShopEditor shop;
-    for (int i = 0; i < state.range(0); ++i) {
-        const ItemRecord r = World::Record(i);
-        AddShopRow(shop,
-                   MakeShopRow(r[NameField], r[WeightField], r[PriceField], r[AvailabilityField]));
-    }
     std::string document;
-    WriteShopPrint(shop, document);
+    WriteShopPrint(FilledShop(state.range(0)), document);
     const auto page = world.folders.TempFolder / "Temp.html";
     std::ofstream(page, std::ios::binary) << document;
     for (auto _ : state) {
@@ -242,22 +176,68 @@ void PrintPdf(benchmark::State& state) {
     }
 }
 
-BENCHMARK(StartEmptyWindow)->UseManualTime();
-BENCHMARK(StartProgram)->UseManualTime();
-BENCHMARK(PrintPdf)->Arg(100)->Arg(3000);
-
-void DeclareHandlers() {
-    for (const Handler& handler : Handlers()) {
-        auto* declared = benchmark::RegisterBenchmark(handler.name, Measure, handler)->Apply(Sizes);
-        if (handler.writes)
-            declared->UseRealTime();
-    }
-}
+const std::vector<Measurement> Measurements = {
+    {"StartEmptyWindow", "", std::bind_front(Start, "empty"), true, {}},
+    {"StartProgram", "StartEmptyWindow", StartProgram, true, {}},
+    {"PrintPdf", "", PrintPdf, false, {100, 3000}},
+    {"ChooseAlles", "",
+     OnDesk([](Desk&) {}, [](Desk& d, int) { d.Choose("cmbKategorien", "Alles"); })},
+    {"ClickItemHeader", "",
+     OnDesk(PrepareItem, [](Desk& d, int turn) { d.ClickHeader("lvGegenstände", turn % 2); })},
+    {"PickItem", "",
+     OnDesk(PrepareItem,
+            [](Desk& d, int turn) { d.PickRow("lvGegenstände", turn % d.Rows("lvGegenstände")); })},
+    {"SearchByLetter", "",
+     OnDesk(
+         PrepareItem,
+         [](Desk& d, int turn) { d.Press("lvGegenstände", 0, QString(QChar('a' + turn % 26))); })},
+    {"TypeIntoField", "",
+     OnDesk(PrepareItem,
+            [](Desk& d, int turn) { d.Press("txtItem3", 0, QString(QChar('a' + turn % 26))); })},
+    {"TickAvailability", "",
+     OnDesk(PrepareItem,
+            [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdAlleHin" : "cmdAlleZurück"); })},
+    {"SaveItem", "",
+     OnDesk(PrepareItem,
+            [](Desk& d, int turn) {
+                d.PickRow("lvGegenstände", turn % d.Rows("lvGegenstände"));
+                d.Find<QLineEdit>("txtItem1")->setText(QString::number(1000 + turn));
+                d.Click("cmdItemSave");
+            }),
+     true},
+    {"DeleteItem", "",
+     OnDesk(PrepareItem,
+            [](Desk& d, int) {
+                d.AnswerNext();
+                d.Click("cmdItemDelete");
+            }),
+     true},
+    {"SwitchMode", "",
+     OnDesk(PrepareShop,
+            [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdItemEditor" : "cmdShopEditor"); })},
+    {"AddWare", "",
+     OnDesk(
+         [](Desk& d) {
+             PrepareShop(d);
+             PrepareItem(d);
+         },
+         [](Desk& d, int) { d.Click("cmdItemHin"); })},
+    {"RemoveWare", "",
+     OnDesk(PrepareShop, [](Desk& d, int) { d.Press("lvLaden", Qt::Key_Delete); })},
+    {"ClickShopHeader", "",
+     OnDesk(PrepareShop, [](Desk& d, int turn) { d.ClickHeader("lvLaden", turn % 2); })},
+    {"ChoosePriceLevel", "",
+     OnDesk(PrepareShop,
+            [](Desk& d, int turn) {
+                auto* levels = d.Find<QComboBox>("cmbShopPreise");
+                emit levels->activated(turn % levels->count());
+            })},
+    {"GenerateShop", "", OnDesk(PrepareShop, [](Desk& d, int) { d.Generate(); })}};
 
 void PrintMemory() {
     const StarterWorld starter;
     const World one(1, 1);
-    const World full(32767, 50);
+    const World full(32767, Categories);
     const double empty = RunWindow("empty");
     const double program = RunWindow(starter.root);
     const double items = RunWindow(full.root, "Alles") - RunWindow(one.root, "Alles");
@@ -275,7 +255,6 @@ void PrintMemory() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
-    emporium::bench::DeclareHandlers();
-    emporium::bench::RunAll(argc, argv);
+    emporium::bench::RunAll(argc, argv, emporium::bench::Measurements);
     emporium::bench::PrintMemory();
 }

@@ -4,16 +4,20 @@
 #include "base/Platform.h"
 #include "base/Variablen.h"
 #include "regions/Availability.h"
+#include "shopeditor/ShopList.h"
 #include "store/CategoryFiles.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace emporium::bench {
+
+constexpr int Categories = 50;
 
 inline std::string CategoryName(int number) {
     return "Kategorie" + std::to_string(number);
@@ -98,5 +102,19 @@ private:
         WriteData(std::filesystem::path("Emporium") / name, bytes);
     }
 };
+
+inline std::unique_ptr<ShopRow> Ware(int number) {
+    const ItemRecord r = World::Record(number);
+    return MakeShopRow(r[NameField], r[WeightField], r[PriceField], r[AvailabilityField]);
+}
+
+inline ShopEditor FilledShop(std::int64_t rows) {
+    ShopEditor shop;
+    for (int i = 0; i < rows; ++i)
+        shop.lvLaden.rows.push_back(Ware(i));
+    ArrangeShopList(shop);
+    UpdateShopButtons(shop);
+    return shop;
+}
 
 } // namespace emporium::bench

@@ -1,5 +1,5 @@
 // Any bytes as an item's availability: the form's two lists hold every region once, whatever the
-// string says and whatever the user does with them, and show what the string names.
+// string says, and show what the string names.
 #include "Fuzz.h"
 
 #include "base/GermanOrder.h"
@@ -14,8 +14,6 @@ namespace emporium::fuzz {
 namespace {
 
 const Folders TheFolders = InitFolders("/fuzz");
-
-constexpr std::size_t MostClicks = 40;
 
 std::string Made(const ItemEditor& editor) {
     return BuildAvailability(editor.lstVerfügbar.Entries());
@@ -58,24 +56,6 @@ void CheckPieces(std::string_view availability) {
     }
 }
 
-// The user's clicks, one a byte.
-void Click(ItemEditor& editor, const Platform& platform, unsigned char byte) {
-    switch (byte % 6) {
-    case 0:
-        return MoveRegionIn(editor);
-    case 1:
-        return MoveRegionOut(editor);
-    case 2:
-        return MoveAllRegionsIn(editor, platform, TheFolders);
-    case 3:
-        return ReturnAllRegions(editor);
-    case 4:
-        return editor.lstVerfügbar.Select(byte / 6);
-    default:
-        return SelectRegion(editor, platform, TheFolders, byte / 6);
-    }
-}
-
 } // namespace
 } // namespace emporium::fuzz
 
@@ -93,10 +73,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CheckLists(editor);
     CheckShown(editor, availability);
     const std::string shown = Made(editor);
-    for (const char c : availability.substr(0, MostClicks)) {
-        Click(editor, platform, static_cast<unsigned char>(c));
-        CheckLists(editor);
-    }
     ShowAvailability(editor, platform, TheFolders, shown);
     Expect(Made(editor) == shown, "what the form made is shown as it is");
     return 0;

@@ -50,6 +50,11 @@ void CheckChange(std::string_view bytes, const CategoryFile& file, std::size_t p
     expected[place] = other;
     Expect(Copies(read.records) == expected, "a change reaches one record");
     Expect(read.cutOff == file.cutOff, "a change leaves the file as whole as it was");
+    const char* const start = file.bytes->data();
+    const std::string_view before(start, view.front().data());
+    const std::string_view rest(view.back().data(), start + file.bytes->size());
+    Expect(changed.starts_with(before), "the bytes before the record stay");
+    Expect(changed.ends_with(rest.substr(std::min(rest.find('\n'), rest.size()))), "and behind it");
     if (IsWellFormed(bytes)) {
         Expect(WithRecordAt(*file.bytes, view, own) == bytes, "the same record is no change");
         Expect(WithRecordAt(*read.bytes, read.records[place], own) == bytes, "changed back");
