@@ -30,7 +30,7 @@ struct FileLayer {
     using Path = std::filesystem::path;
     using Handle = std::intptr_t;
 
-    /// The whole file. A folder in the file's place is unreadable.
+    /// The whole file. A folder in the file's place is unreadable, and so is a file above 1 GiB.
     std::function<FileText(const Path& file)> read;
 
     /// Creates a file for writing; fails with file_exists if there is one of that name.

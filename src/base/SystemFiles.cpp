@@ -27,7 +27,11 @@ FileText TooLarge() {
     return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::file_too_large)};
 }
 
+} // namespace
+
 #ifdef _WIN32
+
+namespace {
 
 // Virus scanners and sync clients hold a file for moments: these failures pass.
 constexpr int Attempts = 10;
@@ -174,8 +178,10 @@ std::error_code FlushFolder(const Path&) {
     return {};
 }
 
+} // namespace
+
 // A name that stands for the folder, however its path is written.
-FolderClaim Claim(const Path& folder) {
+FolderClaim ClaimFolder(const Path& folder) {
     std::wstring name = SystemPath(folder);
     CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
     const auto sum = std::to_wstring(std::hash<std::wstring>()(name));
@@ -187,7 +193,52 @@ FolderClaim Claim(const Path& folder) {
             })};
 }
 
+fs::file_status StatusOf(const Path& path, std::error_code& error) {
+    error.clear();
+    const DWORD attributes = AttributesOf(path);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const std::error_code reason = LastError();
+        if (reason != std::errc::no_such_file_or_directory)
+            error = reason;
+        return fs::file_status(error ? fs::file_type::none : fs::file_type::not_found);
+    }
+    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
+                           fixed ? fs::perms::owner_read
+                                 : fs::perms::owner_read | fs::perms::owner_write);
+}
+
+std::vector<Path> EntriesOf(const Path& folder) {
+    std::vector<Path> entries;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return entries;
+    do {
+        const std::wstring_view name = found.cFileName;
+        if (name != L"." && name != L".." && IsText(found.cFileName))
+            entries.push_back(folder / name);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return entries;
+}
+
+bool IsHiddenFile(const Path& file) {
+    const DWORD attributes = AttributesOf(file);
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+Path RunningProgramFolder() {
+    std::wstring name(32768, L'\0');
+    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+    return Path(name).parent_path();
+}
+
 #else
+
+namespace {
 
 // A quota that is used up is a full disk to its user.
 std::error_code LastError() {
@@ -285,8 +336,10 @@ std::error_code FlushFolder(const Path& folder) {
     return error;
 }
 
+} // namespace
+
 // A lock on the folder itself leaves no file behind, whatever ends the program.
-FolderClaim Claim(const Path& folder) {
+FolderClaim ClaimFolder(const Path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return {};
@@ -297,65 +350,6 @@ FolderClaim Claim(const Path& folder) {
     }
     return {false, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
 }
-
-#endif
-
-} // namespace
-
-FileLayer SystemFiles() {
-    return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
-}
-
-FolderClaim ClaimFolder(const std::filesystem::path& folder) {
-    return Claim(folder);
-}
-
-#ifdef _WIN32
-
-fs::file_status StatusOf(const Path& path, std::error_code& error) {
-    error.clear();
-    const DWORD attributes = AttributesOf(path);
-    if (attributes == INVALID_FILE_ATTRIBUTES) {
-        const std::error_code reason = LastError();
-        if (reason != std::errc::no_such_file_or_directory)
-            error = reason;
-        return fs::file_status(error ? fs::file_type::none : fs::file_type::not_found);
-    }
-    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
-    return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
-                           fixed ? fs::perms::owner_read
-                                 : fs::perms::owner_read | fs::perms::owner_write);
-}
-
-std::vector<Path> EntriesOf(const Path& folder) {
-    std::vector<Path> entries;
-    WIN32_FIND_DATAW found;
-    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return entries;
-    do {
-        const std::wstring_view name = found.cFileName;
-        if (name != L"." && name != L".." && IsText(found.cFileName))
-            entries.push_back(folder / name);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
-    return entries;
-}
-
-bool IsHiddenFile(const Path& file) {
-    const DWORD attributes = AttributesOf(file);
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-}
-
-Path RunningProgramFolder() {
-    std::wstring name(32768, L'\0');
-    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
-    return Path(name).parent_path();
-}
-
-#else
 
 fs::file_status StatusOf(const Path& path, std::error_code& error) {
     const fs::file_status status = fs::status(path, error);
@@ -384,5 +378,9 @@ Path RunningProgramFolder() {
 }
 
 #endif
+
+FileLayer SystemFiles() {
+    return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
+}
 
 } // namespace emporium
