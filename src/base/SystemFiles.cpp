@@ -37,14 +37,30 @@ namespace {
 constexpr int Attempts = 10;
 constexpr DWORD PauseMilliseconds = 30;
 
-// The standard library counts these two among the denials, of which a user would look for the cause
-// elsewhere.
+// The standard library takes a network or a disk out of reach for a missing file, and has no words
+// for some failures.
 std::error_code ToError(DWORD error) {
-    if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION)
-        return std::make_error_code(std::errc::device_or_resource_busy);
-    if (error == ERROR_WRITE_PROTECT)
-        return std::make_error_code(std::errc::read_only_file_system);
-    return {static_cast<int>(error), std::system_category()};
+    enum : DWORD { virus = 225, noCloud = 362, cloudOutOfReach = 388, quotaUsedUp = 1295 };
+    switch (error) {
+    case ERROR_NOT_READY:
+    case ERROR_BAD_NETPATH:
+    case ERROR_DEV_NOT_EXIST:
+    case ERROR_NETNAME_DELETED:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_FILE_CORRUPT:
+    case noCloud:
+    case cloudOutOfReach:
+        return std::make_error_code(std::errc::io_error);
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+        return std::make_error_code(std::errc::invalid_argument);
+    case quotaUsedUp:
+        return std::make_error_code(std::errc::no_space_on_device);
+    case virus:
+        return std::make_error_code(std::errc::operation_not_permitted);
+    default:
+        return {static_cast<int>(error), std::system_category()};
+    }
 }
 
 std::error_code LastError() {
