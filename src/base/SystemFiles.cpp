@@ -81,13 +81,15 @@ template <typename Call> std::error_code WithRetries(Call call) {
 }
 
 // A path of more than 260 characters is taken in this form only, in which "/" and ".." mean
-// nothing.
+// nothing. The standard library's own cleaning would take the name of a server for a folder.
 std::wstring SystemPath(const Path& path) {
     constexpr std::size_t limit = MAX_PATH - 12; // a folder's path leaves room for a short name
-    const std::wstring plain = path.lexically_normal().make_preferred().native();
-    if (plain.size() < limit)
-        return plain;
-    return plain.starts_with(L"\\\\") ? L"\\\\?\\UNC" + plain.substr(1) : L"\\\\?\\" + plain;
+    std::wstring full(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+    full.resize(
+        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    if (full.size() < limit || full.starts_with(L"\\\\?\\"))
+        return full;
+    return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
 }
 
 DWORD AttributesOf(const Path& path) {
