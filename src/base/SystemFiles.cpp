@@ -107,6 +107,16 @@ bool IsText(const wchar_t* name) {
                                nullptr) > 0;
 }
 
+// Folders can be opened, too.
+std::error_code Open(const Path& path, DWORD access, DWORD sharing, DWORD disposition,
+                     HANDLE& handle) {
+    return WithRetries([&] {
+        handle = CreateFileW(SystemPath(path).c_str(), access, sharing, nullptr, disposition,
+                             FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+        return handle != INVALID_HANDLE_VALUE;
+    });
+}
+
 HANDLE ToHandle(Handle handle) {
     return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
 }
@@ -130,12 +140,8 @@ FileText Read(const Path& file) {
     if (IsFolder(file))
         return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::is_a_directory)};
     HANDLE handle = INVALID_HANDLE_VALUE;
-    const std::error_code error = WithRetries([&] {
-        handle =
-            CreateFileW(SystemPath(file).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
-                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-        return handle != INVALID_HANDLE_VALUE;
-    });
+    const std::error_code error =
+        Open(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING, handle);
     if (error == std::errc::no_such_file_or_directory)
         return {FileText::State::Absent, {}, {}};
     if (error)
@@ -146,12 +152,10 @@ FileText Read(const Path& file) {
 }
 
 std::error_code CreateNew(const Path& file, Handle& handle) {
-    HANDLE created = CreateFileW(SystemPath(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                 FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (created == INVALID_HANDLE_VALUE)
-        return LastError();
+    HANDLE created = INVALID_HANDLE_VALUE;
+    const std::error_code error = Open(file, GENERIC_WRITE, 0, CREATE_NEW, created);
     handle = reinterpret_cast<Handle>(created);
-    return {};
+    return error;
 }
 
 std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
@@ -174,8 +178,11 @@ std::error_code Close(Handle handle) {
 // A new file has the rights of its folder, which is what its predecessor had.
 std::error_code CopyMode(const Path& from, const Path& to) {
     constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    const DWORD attributes = FILE_ATTRIBUTE_ARCHIVE | (AttributesOf(from) & kept);
-    return SetFileAttributesW(SystemPath(to).c_str(), attributes) ? std::error_code() : LastError();
+    const DWORD attributes = AttributesOf(from);
+    const bool copied =
+        attributes != INVALID_FILE_ATTRIBUTES &&
+        SetFileAttributesW(SystemPath(to).c_str(), FILE_ATTRIBUTE_ARCHIVE | (attributes & kept));
+    return copied ? std::error_code() : LastError();
 }
 
 std::error_code Rename(const Path& from, const Path& to) {
