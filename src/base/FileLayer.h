@@ -62,11 +62,11 @@ struct FileLayer {
 /// The file system of this machine.
 FileLayer SystemFiles();
 
-/// A mark on a folder that this running program uses it. It goes when the last copy of it goes, at
-/// the latest with the program.
+/// A mark on a folder that this running program uses it, beside any other's. It goes when the last
+/// copy of it goes, at the latest with the program.
 struct FolderClaim {
-    bool takenElsewhere = false; // another running program bears the mark
-    std::shared_ptr<void> mark;  // nothing if taken, or if the folder can't be marked
+    bool takenElsewhere = false; // another running program bears a mark
+    std::shared_ptr<void> mark;  // nothing if the folder can't be marked
 };
 
 FolderClaim ClaimFolder(const std::filesystem::path& folder);

@@ -205,17 +205,19 @@ std::error_code FlushFolder(const Path&) {
 
 } // namespace
 
-// A name that stands for the folder, however its path is written.
+// The folder stays open for writing, which hinders nobody: whoever opens a folder lets others do
+// so. Only the test at the beginning does not, and so it fails beside another copy, on whatever
+// machine that one runs.
 FolderClaim ClaimFolder(const Path& folder) {
-    std::wstring name = SystemPath(folder);
-    CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
-    const auto sum = std::to_wstring(std::hash<std::wstring>()(name));
-    HANDLE mutex = CreateMutexW(nullptr, FALSE, (L"Orvan-Emporium-3-" + sum).c_str());
-    const bool taken = mutex && GetLastError() == ERROR_ALREADY_EXISTS;
-    return {taken, std::shared_ptr<void>(mutex, [](HANDLE held) {
-                if (held)
-                    CloseHandle(held);
-            })};
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
+    HANDLE mark = INVALID_HANDLE_VALUE;
+    const auto error = Open(folder, FILE_ADD_FILE, sharing, OPEN_EXISTING, mark);
+    const bool taken = error == std::errc::device_or_resource_busy;
+    if (!error)
+        CloseHandle(mark);
+    if (Open(folder, FILE_ADD_FILE, sharing | FILE_SHARE_WRITE, OPEN_EXISTING, mark))
+        return {taken, nullptr};
+    return {taken, std::shared_ptr<void>(mark, CloseHandle)};
 }
 
 fs::file_status StatusOf(const Path& path, std::error_code& error) {
@@ -363,17 +365,15 @@ std::error_code FlushFolder(const Path& folder) {
 
 } // namespace
 
-// A lock on the folder itself leaves no file behind, whatever ends the program.
+// A lock on the folder itself leaves no file behind, whatever ends the program. All copies share
+// it; that it can't be had alone tells of others.
 FolderClaim ClaimFolder(const Path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return {};
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        const bool taken = errno == EWOULDBLOCK;
-        ::close(descriptor);
-        return {taken, nullptr};
-    }
-    return {false, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
+    const bool taken = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::flock(descriptor, LOCK_SH | LOCK_NB);
+    return {taken, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
 }
 
 fs::file_status StatusOf(const Path& path, std::error_code& error) {
