@@ -46,7 +46,7 @@ struct FileLayer {
     /// Closes the file, also when it reports a failure.
     std::function<std::error_code(Handle handle)> close;
 
-    /// Gives `to` the permissions of `from`.
+    /// Gives `to` the permissions of `from`; on Windows what hides a file, the rest is its folder's.
     std::function<std::error_code(const Path& from, const Path& to)> copyMode;
 
     /// Renames the file; one of the new name is replaced in the same step.
@@ -81,7 +81,7 @@ std::vector<std::filesystem::path> EntriesOf(const std::filesystem::path& folder
 /// True for a file that the desktop hides from its user.
 bool IsHiddenFile(const std::filesystem::path& file);
 
-/// The folder of the running program, with links resolved.
+/// The folder of the running program, on Linux with links resolved.
 std::filesystem::path RunningProgramFolder();
 
 } // namespace emporium

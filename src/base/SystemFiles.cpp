@@ -175,7 +175,7 @@ std::error_code Close(Handle handle) {
     return CloseHandle(ToHandle(handle)) ? std::error_code() : LastError();
 }
 
-// A new file has the rights of its folder, which is what its predecessor had.
+// A new file has the rights of its folder, which its predecessor mostly had, too.
 std::error_code CopyMode(const Path& from, const Path& to) {
     constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     const DWORD attributes = AttributesOf(from);
