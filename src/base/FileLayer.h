@@ -46,7 +46,7 @@ struct FileLayer {
     /// Closes the file, also when it reports a failure.
     std::function<std::error_code(Handle handle)> close;
 
-    /// Gives `to` the permissions of `from`; on Windows what hides a file, the rest is its folder's.
+    /// Gives `to` the permissions of `from`; on Windows only what hides a file.
     std::function<std::error_code(const Path& from, const Path& to)> copyMode;
 
     /// Renames the file; one of the new name is replaced in the same step.

@@ -49,8 +49,8 @@ std::string Print(PrintHost& host, const Platform& platform, const Folders& fold
     const bool loaded = Load(host, platform, folders, writer, fault);
     platform.SetWaitPointer(false);
     if (loaded && !platform.Browser.Print())
-        fault = "Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst abgebrochen habt, "
-                "prüft den Drucker."_ansi;
+        fault = "Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst abgebrochen "
+                "habt, prüft den Drucker."_ansi;
     return fault;
 }
 
