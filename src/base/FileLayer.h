@@ -30,7 +30,7 @@ struct FileLayer {
     using Path = std::filesystem::path;
     using Handle = std::intptr_t;
 
-    /// The whole file. A folder in the file's place is unreadable.
+    /// The whole file. A folder in the file's place is unreadable, and so is a file above 1 GiB.
     std::function<FileText(const Path& file)> read;
 
     /// Creates a file for writing; fails with file_exists if there is one of that name.
@@ -46,7 +46,7 @@ struct FileLayer {
     /// Closes the file, also when it reports a failure.
     std::function<std::error_code(Handle handle)> close;
 
-    /// Gives `to` the permissions of `from`.
+    /// Gives `to` the permissions of `from`; on Windows only what hides a file.
     std::function<std::error_code(const Path& from, const Path& to)> copyMode;
 
     /// Renames the file; one of the new name is replaced in the same step.
@@ -62,11 +62,11 @@ struct FileLayer {
 /// The file system of this machine.
 FileLayer SystemFiles();
 
-/// A mark on a folder that this running program uses it. It goes when the last copy of it goes, at
-/// the latest with the program.
+/// A mark on a folder that this running program uses it, beside any other's. It goes when the last
+/// copy of it goes, at the latest with the program.
 struct FolderClaim {
-    bool takenElsewhere = false; // another running program bears the mark
-    std::shared_ptr<void> mark;  // nothing if taken, or if the folder can't be marked
+    bool takenElsewhere = false; // another running program bears a mark
+    std::shared_ptr<void> mark;  // nothing if the folder can't be marked
 };
 
 FolderClaim ClaimFolder(const std::filesystem::path& folder);
@@ -81,7 +81,7 @@ std::vector<std::filesystem::path> EntriesOf(const std::filesystem::path& folder
 /// True for a file that the desktop hides from its user.
 bool IsHiddenFile(const std::filesystem::path& file);
 
-/// The folder of the running program, with links resolved.
+/// The folder of the running program, on Linux with links resolved.
 std::filesystem::path RunningProgramFolder();
 
 } // namespace emporium

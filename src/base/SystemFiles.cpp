@@ -27,20 +27,40 @@ FileText TooLarge() {
     return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::file_too_large)};
 }
 
+} // namespace
+
 #ifdef _WIN32
+
+namespace {
 
 // Virus scanners and sync clients hold a file for moments: these failures pass.
 constexpr int Attempts = 10;
 constexpr DWORD PauseMilliseconds = 30;
 
-// The standard library counts these two among the denials, of which a user would look for the cause
-// elsewhere.
+// The standard library takes a network or a disk out of reach for a missing file, and has no words
+// for some failures.
 std::error_code ToError(DWORD error) {
-    if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION)
-        return std::make_error_code(std::errc::device_or_resource_busy);
-    if (error == ERROR_WRITE_PROTECT)
-        return std::make_error_code(std::errc::read_only_file_system);
-    return {static_cast<int>(error), std::system_category()};
+    enum : DWORD { virus = 225, noCloud = 362, cloudOutOfReach = 388, quotaUsedUp = 1295 };
+    switch (error) {
+    case ERROR_NOT_READY:
+    case ERROR_BAD_NETPATH:
+    case ERROR_DEV_NOT_EXIST:
+    case ERROR_NETNAME_DELETED:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_FILE_CORRUPT:
+    case noCloud:
+    case cloudOutOfReach:
+        return std::make_error_code(std::errc::io_error);
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+        return std::make_error_code(std::errc::invalid_argument);
+    case quotaUsedUp:
+        return std::make_error_code(std::errc::no_space_on_device);
+    case virus:
+        return std::make_error_code(std::errc::operation_not_permitted);
+    default:
+        return {static_cast<int>(error), std::system_category()};
+    }
 }
 
 std::error_code LastError() {
@@ -61,13 +81,15 @@ template <typename Call> std::error_code WithRetries(Call call) {
 }
 
 // A path of more than 260 characters is taken in this form only, in which "/" and ".." mean
-// nothing.
+// nothing. The standard library's own cleaning would take the name of a server for a folder.
 std::wstring SystemPath(const Path& path) {
     constexpr std::size_t limit = MAX_PATH - 12; // a folder's path leaves room for a short name
-    const std::wstring plain = path.lexically_normal().make_preferred().native();
-    if (plain.size() < limit)
-        return plain;
-    return plain.starts_with(L"\\\\") ? L"\\\\?\\UNC" + plain.substr(1) : L"\\\\?\\" + plain;
+    std::wstring full(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+    full.resize(
+        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    if (full.size() < limit || full.starts_with(L"\\\\?\\"))
+        return full;
+    return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
 }
 
 DWORD AttributesOf(const Path& path) {
@@ -83,6 +105,16 @@ bool IsFolder(const Path& path) {
 bool IsText(const wchar_t* name) {
     return WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, name, -1, nullptr, 0, nullptr,
                                nullptr) > 0;
+}
+
+// Folders can be opened, too.
+std::error_code Open(const Path& path, DWORD access, DWORD sharing, DWORD disposition,
+                     HANDLE& handle) {
+    return WithRetries([&] {
+        handle = CreateFileW(SystemPath(path).c_str(), access, sharing, nullptr, disposition,
+                             FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+        return handle != INVALID_HANDLE_VALUE;
+    });
 }
 
 HANDLE ToHandle(Handle handle) {
@@ -108,12 +140,8 @@ FileText Read(const Path& file) {
     if (IsFolder(file))
         return {FileText::State::Unreadable, {}, std::make_error_code(std::errc::is_a_directory)};
     HANDLE handle = INVALID_HANDLE_VALUE;
-    const std::error_code error = WithRetries([&] {
-        handle =
-            CreateFileW(SystemPath(file).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
-                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-        return handle != INVALID_HANDLE_VALUE;
-    });
+    const std::error_code error =
+        Open(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING, handle);
     if (error == std::errc::no_such_file_or_directory)
         return {FileText::State::Absent, {}, {}};
     if (error)
@@ -124,12 +152,10 @@ FileText Read(const Path& file) {
 }
 
 std::error_code CreateNew(const Path& file, Handle& handle) {
-    HANDLE created = CreateFileW(SystemPath(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                 FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (created == INVALID_HANDLE_VALUE)
-        return LastError();
+    HANDLE created = INVALID_HANDLE_VALUE;
+    const std::error_code error = Open(file, GENERIC_WRITE, 0, CREATE_NEW, created);
     handle = reinterpret_cast<Handle>(created);
-    return {};
+    return error;
 }
 
 std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
@@ -149,11 +175,14 @@ std::error_code Close(Handle handle) {
     return CloseHandle(ToHandle(handle)) ? std::error_code() : LastError();
 }
 
-// A new file has the rights of its folder, which is what its predecessor had.
+// A new file has the rights of its folder, which its predecessor mostly had, too.
 std::error_code CopyMode(const Path& from, const Path& to) {
     constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    const DWORD attributes = FILE_ATTRIBUTE_ARCHIVE | (AttributesOf(from) & kept);
-    return SetFileAttributesW(SystemPath(to).c_str(), attributes) ? std::error_code() : LastError();
+    const DWORD attributes = AttributesOf(from);
+    const bool copied =
+        attributes != INVALID_FILE_ATTRIBUTES &&
+        SetFileAttributesW(SystemPath(to).c_str(), FILE_ATTRIBUTE_ARCHIVE | (attributes & kept));
+    return copied ? std::error_code() : LastError();
 }
 
 std::error_code Rename(const Path& from, const Path& to) {
@@ -174,20 +203,69 @@ std::error_code FlushFolder(const Path&) {
     return {};
 }
 
-// A name that stands for the folder, however its path is written.
-FolderClaim Claim(const Path& folder) {
-    std::wstring name = SystemPath(folder);
-    CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
-    const auto sum = std::to_wstring(std::hash<std::wstring>()(name));
-    HANDLE mutex = CreateMutexW(nullptr, FALSE, (L"Orvan-Emporium-3-" + sum).c_str());
-    const bool taken = mutex && GetLastError() == ERROR_ALREADY_EXISTS;
-    return {taken, std::shared_ptr<void>(mutex, [](HANDLE held) {
-                if (held)
-                    CloseHandle(held);
-            })};
+} // namespace
+
+// The folder stays open for writing, which hinders nobody: whoever opens a folder lets others do
+// so. Only the test at the beginning does not, and so it fails beside another copy, on whatever
+// machine that one runs.
+FolderClaim ClaimFolder(const Path& folder) {
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
+    HANDLE mark = INVALID_HANDLE_VALUE;
+    const auto error = Open(folder, FILE_ADD_FILE, sharing, OPEN_EXISTING, mark);
+    const bool taken = error == std::errc::device_or_resource_busy;
+    if (!error)
+        CloseHandle(mark);
+    if (Open(folder, FILE_ADD_FILE, sharing | FILE_SHARE_WRITE, OPEN_EXISTING, mark))
+        return {taken, nullptr};
+    return {taken, std::shared_ptr<void>(mark, CloseHandle)};
+}
+
+fs::file_status StatusOf(const Path& path, std::error_code& error) {
+    error.clear();
+    const DWORD attributes = AttributesOf(path);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const std::error_code reason = LastError();
+        if (reason != std::errc::no_such_file_or_directory)
+            error = reason;
+        return fs::file_status(error ? fs::file_type::none : fs::file_type::not_found);
+    }
+    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
+                           fixed ? fs::perms::owner_read
+                                 : fs::perms::owner_read | fs::perms::owner_write);
+}
+
+std::vector<Path> EntriesOf(const Path& folder) {
+    std::vector<Path> entries;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return entries;
+    do {
+        const std::wstring_view name = found.cFileName;
+        if (name != L"." && name != L".." && IsText(found.cFileName))
+            entries.push_back(folder / name);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return entries;
+}
+
+bool IsHiddenFile(const Path& file) {
+    const DWORD attributes = AttributesOf(file);
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+Path RunningProgramFolder() {
+    std::wstring name(32768, L'\0');
+    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+    return Path(name).parent_path();
 }
 
 #else
+
+namespace {
 
 // A quota that is used up is a full disk to its user.
 std::error_code LastError() {
@@ -285,77 +363,18 @@ std::error_code FlushFolder(const Path& folder) {
     return error;
 }
 
-// A lock on the folder itself leaves no file behind, whatever ends the program.
-FolderClaim Claim(const Path& folder) {
+} // namespace
+
+// A lock on the folder itself leaves no file behind, whatever ends the program. All copies share
+// it; that it can't be had alone tells of others.
+FolderClaim ClaimFolder(const Path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return {};
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        const bool taken = errno == EWOULDBLOCK;
-        ::close(descriptor);
-        return {taken, nullptr};
-    }
-    return {false, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
+    const bool taken = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::flock(descriptor, LOCK_SH | LOCK_NB);
+    return {taken, std::shared_ptr<void>(nullptr, [descriptor](void*) { ::close(descriptor); })};
 }
-
-#endif
-
-} // namespace
-
-FileLayer SystemFiles() {
-    return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
-}
-
-FolderClaim ClaimFolder(const std::filesystem::path& folder) {
-    return Claim(folder);
-}
-
-#ifdef _WIN32
-
-fs::file_status StatusOf(const Path& path, std::error_code& error) {
-    error.clear();
-    const DWORD attributes = AttributesOf(path);
-    if (attributes == INVALID_FILE_ATTRIBUTES) {
-        const std::error_code reason = LastError();
-        if (reason != std::errc::no_such_file_or_directory)
-            error = reason;
-        return fs::file_status(error ? fs::file_type::none : fs::file_type::not_found);
-    }
-    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    const bool fixed = !folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
-    return fs::file_status(folder ? fs::file_type::directory : fs::file_type::regular,
-                           fixed ? fs::perms::owner_read
-                                 : fs::perms::owner_read | fs::perms::owner_write);
-}
-
-std::vector<Path> EntriesOf(const Path& folder) {
-    std::vector<Path> entries;
-    WIN32_FIND_DATAW found;
-    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return entries;
-    do {
-        const std::wstring_view name = found.cFileName;
-        if (name != L"." && name != L".." && IsText(found.cFileName))
-            entries.push_back(folder / name);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
-    return entries;
-}
-
-bool IsHiddenFile(const Path& file) {
-    const DWORD attributes = AttributesOf(file);
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-}
-
-Path RunningProgramFolder() {
-    std::wstring name(32768, L'\0');
-    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
-    return Path(name).parent_path();
-}
-
-#else
 
 fs::file_status StatusOf(const Path& path, std::error_code& error) {
     const fs::file_status status = fs::status(path, error);
@@ -384,5 +403,9 @@ Path RunningProgramFolder() {
 }
 
 #endif
+
+FileLayer SystemFiles() {
+    return {Read, CreateNew, Write, Flush, Close, CopyMode, Rename, Remove, FlushFolder};
+}
 
 } // namespace emporium

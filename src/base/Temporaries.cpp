@@ -66,12 +66,13 @@ fs::path FollowLinks(fs::path file, std::error_code& error) {
         if (fs::status_known(status))
             error.clear(); // a file that is not there is none of the failures
         if (error || !fs::is_symlink(status))
-            break;
+            return file;
         const fs::path target = fs::read_symlink(file, error);
         if (error)
-            break;
+            return file;
         file = file.parent_path() / target;
     }
+    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
     return file;
 }
 

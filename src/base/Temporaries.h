@@ -11,7 +11,7 @@
 namespace emporium {
 
 /// Where the path leads in the end, so that a link stays a link; `error` if that can't be found
-/// out.
+/// out. On Windows the standard library sees no links: there a file takes the link's place.
 std::filesystem::path FollowLinks(std::filesystem::path file, std::error_code& error);
 
 /// Writes the contents into a new file beside the target, which gets the target's permissions if it

@@ -49,7 +49,8 @@ std::string Print(PrintHost& host, const Platform& platform, const Folders& fold
     const bool loaded = Load(host, platform, folders, writer, fault);
     platform.SetWaitPointer(false);
     if (loaded && !platform.Browser.Print())
-        fault = "Der Drucker hat einen Fehler gemeldet, es wurde nichts oder nicht alles gedruckt.";
+        fault = "Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst abgebrochen "
+                "habt, prüft den Drucker."_ansi;
     return fault;
 }
 

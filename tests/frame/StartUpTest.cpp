@@ -52,29 +52,31 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
     }
 }
 
-TEST(Start, ASecondCopyIsToldAndLeavesTheFirstOnesWorkAlone) {
+TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {
     Installation here;
-    auto first = std::make_unique<frmEmporiumMain>();
-    EXPECT_TRUE(StartUp(*first, here.script.platform, here.program.root));
-    here.program.Write("Emporium/Fernwaffen.dat.orvan-neu0", "what the first is writing");
+    auto window = std::make_unique<frmEmporiumMain>();
+    EXPECT_TRUE(StartUp(*window, here.script.platform, here.program.root));
+    here.program.Write("Emporium/Fernwaffen.dat.orvan-neu0", "what another is writing");
     std::vector<std::string> questions;
     bool goOn = false;
     here.script.platform.AskYesNo = [&](const YesNoBox& box) {
         questions.push_back(box.text);
         return goOn;
     };
-    for (int i = 0; i < 2; ++i) {
-        frmEmporiumMain second;
-        EXPECT_EQ(StartUp(second, here.script.platform, here.program.root), goOn);
-        EXPECT_EQ(second.items.CategoryNames.size(), goOn ? 1U : 0U);
-        goOn = true;
+    for (const bool answer : {false, true, true}) {
+        goOn = answer;
+        auto next = std::make_unique<frmEmporiumMain>();
+        EXPECT_EQ(StartUp(*next, here.script.platform, here.program.root), goOn);
+        EXPECT_EQ(next->items.CategoryNames.size(), goOn ? 1U : 0U);
+        if (goOn)
+            window = std::move(next); // the copy before it ends
     }
-    EXPECT_EQ(questions.size(), 2U);
+    EXPECT_EQ(questions.size(), 3U);
     EXPECT_NE(here.program.Read("Emporium/Fernwaffen.dat.orvan-neu0"), "(absent)");
-    first.reset();
-    frmEmporiumMain next;
-    EXPECT_TRUE(StartUp(next, here.script.platform, here.program.root));
-    EXPECT_EQ(questions.size(), 2U);
+    window.reset();
+    frmEmporiumMain alone;
+    EXPECT_TRUE(StartUp(alone, here.script.platform, here.program.root));
+    EXPECT_EQ(questions.size(), 3U);
 }
 
 TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing) {
