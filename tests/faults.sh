@@ -1,6 +1,6 @@
 #!/bin/sh
 # Kills the program's file work at every system call, has every call fail and fills the disk, and looks
-# at what is left (see tests/faults/faults.py). Takes some minutes. Its last lines tell how many faults
+# at what is left (see tests/faults/faults.py). Takes about a minute. Its last lines tell how many faults
 # were injected, fired and survived; fails unless these numbers are equal. Needs the Debian packages
 # strace, python3 and util-linux. As root it also tries real disks in trouble; these mounts are seen by
 # nothing but this script.
