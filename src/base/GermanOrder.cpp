@@ -110,16 +110,16 @@ struct Entry {
     int index;
 };
 
-} // namespace
-
-std::string GermanSortKey(std::string_view text) {
+std::string SortKey(std::string_view text) {
     std::string key;
     AppendSortKey(key, text);
     return key;
 }
 
+} // namespace
+
 bool GermanLess(std::string_view left, std::string_view right) {
-    return GermanSortKey(left) < GermanSortKey(right);
+    return SortKey(left) < SortKey(right);
 }
 
 std::vector<int> GermanOrderOf(std::size_t count, bool descending,

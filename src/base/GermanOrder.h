@@ -11,9 +11,6 @@
 
 namespace emporium {
 
-/// A key whose byte order is the order of the texts.
-std::string GermanSortKey(std::string_view text);
-
 bool GermanLess(std::string_view left, std::string_view right);
 
 /// The indices 0 to count - 1 in the order of their texts. Equal texts keep the order of their

@@ -11,7 +11,7 @@ namespace emporium::ui {
 
 QString ToQString(std::string_view text);
 
-/// A text that the window shows, as it is.
+/// A text that the window shows. A character that the code page lacks becomes "?".
 std::string ToAnsi(const QString& text);
 
 /// What of an entered text may reach the program: composed, without line ends, control characters
