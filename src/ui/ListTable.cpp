@@ -117,11 +117,11 @@ void ListTable::mouseDoubleClickEvent(QMouseEvent* event) {
         emit rowDoubleClicked();
 }
 
-void ListTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTreeView::currentChanged(current, previous);
-    // A list that gets the focus makes a row current without picking it.
-    if (!mirroring_ && selectionModel()->isSelected(current) && current.row() != previous.row())
-        emit rowChosen(current.row());
+// Not with the current row, which the focus moves as well, without picking anything.
+void ListTable::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    if (!mirroring_ && !selected.isEmpty())
+        emit rowChosen(selected.first().top());
 }
 
 } // namespace emporium::ui
