@@ -88,8 +88,7 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Region
             return;
         }
         if (reader.CutOff())
-            faults.push_back(name +
-                             std::string(".dat: Der letzte Datensatz ist nicht vollständig."_ansi));
+            faults.push_back(std::string(name).append(".dat: ").append(RecordIsCutOff));
     }
 }
 

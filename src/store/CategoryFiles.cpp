@@ -239,7 +239,8 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
     if (file.state == FileText::State::Unreadable)
         add(ReasonText(file.reason));
     if (file.cutOff)
-        add("Der letzte Datensatz ist nicht vollständig. Die Datei wird nur angezeigt und nicht verändert."_ansi);
+        add(std::string(RecordIsCutOff)
+                .append(" Die Datei wird nur angezeigt und nicht verändert."_ansi));
     const auto unmarked =
         std::count_if(file.records.begin(), file.records.end(), [](const RecordView& record) {
             return !HasMark(record, NameField) || !HasMark(record, PriceField);

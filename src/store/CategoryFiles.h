@@ -65,6 +65,10 @@ inline constexpr std::string_view AllCategories = "Alles";
 inline constexpr std::string_view CategoryIsFull =
     "Die Kategorie ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi;
 
+/// What the user is told of lines that are left over behind the last whole record.
+inline constexpr std::string_view RecordIsCutOff =
+    "Der letzte Datensatz ist nicht vollständig."_ansi;
+
 /// The categories that the import fills. They can't be deleted.
 const std::array<std::string_view, 3>& FixedCategories();
 bool IsFixedCategory(std::string_view name);
