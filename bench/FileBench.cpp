@@ -3,7 +3,7 @@
 #include "Table.h"
 #include "World.h"
 
-#include "base/FileWriting.h"
+#include "files/FileWriting.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"

@@ -5,7 +5,9 @@ set -u
 cd "$(dirname "$0")/../src" || exit 1
 
 # From the lowest folder to the highest. Folders on one line do not know each other.
-layers='base
+layers='text
+files
+base
 regions names
 store
 itemeditor
@@ -33,7 +35,7 @@ wrong=$(awk -v layers="$layers" '
     }' <<<"$includes")
 loops=$(tsort <<<"$includes" 2>&1 >/dev/null)
 qt=$(grep -rlE '^#include <Q' --include='*.h' --include='*.cpp' . | grep -vE '^\./(ui|program)/')
-platform=$(grep -rlE '_WIN32' --include='*.h' --include='*.cpp' . | grep -v '^\./base/SystemFiles.cpp$')
+platform=$(grep -rlE '_WIN32' --include='*.h' --include='*.cpp' . | grep -v '^\./files/SystemFiles.cpp$')
 
 status=0
 report() { [ -z "$2" ] || { printf '%s:\n%s\n' "$1" "$2"; status=1; }; }

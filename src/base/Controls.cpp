@@ -1,6 +1,6 @@
 #include "base/Controls.h"
 
-#include "base/GermanOrder.h"
+#include "text/GermanOrder.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 // and anything may have changed when the call returns.
 #pragma once
 
-#include "base/FileLayer.h"
 #include "base/Subs.h"
+#include "files/FileLayer.h"
 
 #include <chrono>
 #include <filesystem>

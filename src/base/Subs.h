@@ -1,7 +1,7 @@
 // Small routines that every part of the program shares: settings files, the test for a file, dice.
 #pragma once
 
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "documents/PrintHost.h"
 
-#include "base/Ansi.h"
-#include "base/FileWriting.h"
+#include "files/FileWriting.h"
+#include "text/Ansi.h"
 
 namespace emporium {
 

@@ -1,8 +1,8 @@
 #include "documents/ShopDocument.h"
 
-#include "base/Ansi.h"
-#include "base/FileWriting.h"
 #include "documents/HTMLExport.h"
+#include "files/FileWriting.h"
+#include "text/Ansi.h"
 
 namespace emporium {
 

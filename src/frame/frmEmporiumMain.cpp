@@ -1,7 +1,7 @@
 #include "frame/frmEmporiumMain.h"
 
-#include "base/FileWriting.h"
-#include "base/Temporaries.h"
+#include "files/FileWriting.h"
+#include "files/Temporaries.h"
 #include "frame/Version.h"
 #include "itemeditor/CategoryChoice.h"
 #include "shopeditor/ShopList.h"

@@ -1,9 +1,9 @@
 #include "generator/GeneratorConfig.h"
 
-#include "base/Ansi.h"
-#include "base/FileFailure.h"
-#include "base/GermanNumber.h"
-#include "base/LineReader.h"
+#include "files/FileFailure.h"
+#include "text/Ansi.h"
+#include "text/GermanNumber.h"
+#include "text/LineReader.h"
 
 namespace emporium {
 

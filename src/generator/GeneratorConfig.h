@@ -1,9 +1,9 @@
 // What the generator knows of shop types: two files that a user extends with a text editor.
 #pragma once
 
-#include "base/FileLayer.h"
 #include "base/Subs.h"
 #include "base/Variablen.h"
+#include "files/FileLayer.h"
 
 #include <cstdint>
 #include <optional>

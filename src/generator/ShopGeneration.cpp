@@ -1,6 +1,6 @@
 #include "generator/ShopGeneration.h"
 
-#include "base/FileFailure.h"
+#include "files/FileFailure.h"
 #include "generator/GeneratorConfig.h"
 #include "regions/Availability.h"
 #include "shopeditor/ShopList.h"

@@ -1,6 +1,6 @@
 #include "generator/frmEmporiumGenerator.h"
 
-#include "base/FileFailure.h"
+#include "files/FileFailure.h"
 #include "generator/GeneratorConfig.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"

@@ -1,6 +1,6 @@
 #include "itemeditor/CategoryChoice.h"
 
-#include "base/FileWriting.h"
+#include "files/FileWriting.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "store/CategoryNames.h"

@@ -1,7 +1,7 @@
 #include "itemeditor/ItemList.h"
 
-#include "base/GermanOrder.h"
 #include "itemeditor/ItemForm.h"
+#include "text/GermanOrder.h"
 
 #include <algorithm>
 

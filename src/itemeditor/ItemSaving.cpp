@@ -1,6 +1,6 @@
 #include "itemeditor/ItemSaving.h"
 
-#include "base/FileWriting.h"
+#include "files/FileWriting.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"

@@ -1,7 +1,7 @@
 #include "names/GenNameSub.h"
 
-#include "base/Ansi.h"
-#include "base/LineReader.h"
+#include "text/Ansi.h"
+#include "text/LineReader.h"
 
 #include <vector>
 

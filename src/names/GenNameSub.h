@@ -1,10 +1,10 @@
 // Owner names by the naming custom of a race, drawn from the word lists below "Borough".
 #pragma once
 
-#include "base/FileFailure.h"
-#include "base/FileLayer.h"
 #include "base/Subs.h"
 #include "base/Variablen.h"
+#include "files/FileFailure.h"
+#include "files/FileLayer.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 #include "ui/Application.h"
 #include "ui/MainWindow.h"
 

@@ -1,7 +1,7 @@
 #include "regions/AtlasEngine.h"
 
-#include "base/GermanOrder.h"
 #include "base/Subs.h"
+#include "text/GermanOrder.h"
 
 #include <algorithm>
 

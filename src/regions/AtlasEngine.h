@@ -1,9 +1,9 @@
 // The twenty regions of the game world: their codes, how far they lie apart, and their long names.
 #pragma once
 
-#include "base/Ansi.h"
-#include "base/FileLayer.h"
 #include "base/Variablen.h"
+#include "files/FileLayer.h"
+#include "text/Ansi.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "regions/Availability.h"
 
-#include "base/Ansi.h"
 #include "regions/AtlasEngine.h"
+#include "text/Ansi.h"
 
 namespace emporium {
 

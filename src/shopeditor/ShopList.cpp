@@ -1,7 +1,7 @@
 #include "shopeditor/ShopList.h"
 
-#include "base/GermanNumber.h"
-#include "base/GermanOrder.h"
+#include "text/GermanNumber.h"
+#include "text/GermanOrder.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "shopeditor/ShopPricing.h"
 
-#include "base/GermanNumber.h"
 #include "names/GenNameSub.h"
 #include "shopeditor/ShopList.h"
+#include "text/GermanNumber.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #include "store/ArsenalImport.h"
 
-#include "base/Ansi.h"
-#include "base/FileWriting.h"
-#include "base/LineReader.h"
+#include "files/FileWriting.h"
 #include "store/CategoryFiles.h"
+#include "text/Ansi.h"
+#include "text/LineReader.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "store/CategoryFiles.h"
 
-#include "base/FileFailure.h"
-#include "base/GermanNumber.h"
-#include "base/LineReader.h"
+#include "files/FileFailure.h"
+#include "text/GermanNumber.h"
+#include "text/LineReader.h"
 
 #include <algorithm>
 #include <optional>

@@ -2,10 +2,10 @@
 // category. Reading tells what it came to; writing is FileWriting's.
 #pragma once
 
-#include "base/Ansi.h"
-#include "base/FileLayer.h"
-#include "base/LineReader.h"
 #include "base/Variablen.h"
+#include "files/FileLayer.h"
+#include "text/Ansi.h"
+#include "text/LineReader.h"
 
 #include <array>
 #include <filesystem>

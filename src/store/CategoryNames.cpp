@@ -1,7 +1,7 @@
 #include "store/CategoryNames.h"
 
-#include "base/Ansi.h"
 #include "store/CategoryFiles.h"
+#include "text/Ansi.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // Which names a new category can bear, so that its file is always a new plain file of its own.
 #pragma once
 
-#include "base/FileLayer.h"
 #include "base/Variablen.h"
+#include "files/FileLayer.h"
 
 #include <string>
 #include <string_view>

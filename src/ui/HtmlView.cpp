@@ -1,6 +1,6 @@
 #include "ui/HtmlView.h"
 
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 #include "ui/Text.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,6 +1,6 @@
 #include "ui/Text.h"
 
-#include "base/Ansi.h"
+#include "text/Ansi.h"
 
 #include <QTextDocument>
 

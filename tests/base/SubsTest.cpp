@@ -1,8 +1,8 @@
 #include "base/Subs.h"
-#include "base/Ansi.h"
-#include "base/GermanNumber.h"
-#include "base/GermanOrder.h"
 #include "support/ProgramFolder.h"
+#include "text/Ansi.h"
+#include "text/GermanNumber.h"
+#include "text/GermanOrder.h"
 
 #include <gtest/gtest.h>
 

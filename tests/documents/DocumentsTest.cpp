@@ -1,4 +1,3 @@
-#include "base/Ansi.h"
 #include "documents/ItemListDocument.h"
 #include "documents/PrintHost.h"
 #include "documents/ShopDocument.h"
@@ -8,6 +7,7 @@
 #include "shopeditor/ShopPricing.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

@@ -2,16 +2,16 @@
 // file_work FOLDER OPERATION. Every question is answered with Yes; what a box says goes to the
 // standard output as it is, one line each.
 // faults.py starts this program under faults from outside and looks at what is left on the disk.
-#include "base/Ansi.h"
-#include "base/FileFailure.h"
 #include "documents/PrintHost.h"
 #include "documents/ShopDocument.h"
+#include "files/FileFailure.h"
 #include "frame/frmEmporiumMain.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "shopeditor/ShopList.h"
+#include "text/Ansi.h"
 
 #include <algorithm>
 #include <iostream>

@@ -1,4 +1,3 @@
-#include "base/Ansi.h"
 #include "frame/frmEmporiumMain.h"
 #include "generator/ShopGeneration.h"
 #include "itemeditor/CategoryChoice.h"
@@ -8,6 +7,7 @@
 #include "support/EditorAtWork.h"
 #include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

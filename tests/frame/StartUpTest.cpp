@@ -1,8 +1,8 @@
-#include "base/Ansi.h"
 #include "frame/frmEmporiumMain.h"
 #include "itemeditor/CategoryChoice.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

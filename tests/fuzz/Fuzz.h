@@ -3,7 +3,7 @@
 // other presets Replay.cpp does with the files of the corpus.
 #pragma once
 
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -2,10 +2,10 @@
 // string says, and show what the string names.
 #include "Fuzz.h"
 
-#include "base/GermanOrder.h"
 #include "itemeditor/AvailabilityEditor.h"
 #include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
+#include "text/GermanOrder.h"
 
 #include <algorithm>
 #include <set>

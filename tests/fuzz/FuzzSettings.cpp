@@ -2,8 +2,8 @@
 // line that tells it.
 #include "Fuzz.h"
 
-#include "base/Ansi.h"
 #include "generator/GeneratorConfig.h"
+#include "text/Ansi.h"
 
 #include <limits>
 #include <set>

@@ -1,6 +1,6 @@
-#include "base/Ansi.h"
 #include "generator/ShopGeneration.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "base/GermanOrder.h"
 #include "support/EditorAtWork.h"
+#include "text/GermanOrder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "base/Ansi.h"
 #include "names/GenNameSub.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "shopeditor/ShopList.h"
-#include "base/Ansi.h"
 #include "shopeditor/ShopPricing.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

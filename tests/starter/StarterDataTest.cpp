@@ -1,7 +1,5 @@
 // Every data file that ships: its form, and whether the files fit together.
 
-#include "base/Ansi.h"
-#include "base/LineReader.h"
 #include "generator/GeneratorConfig.h"
 #include "generator/ShopGeneration.h"
 #include "regions/AtlasEngine.h"
@@ -9,6 +7,8 @@
 #include "store/ArsenalImport.h"
 #include "store/CategoryFiles.h"
 #include "support/ProgramFolder.h"
+#include "text/Ansi.h"
+#include "text/LineReader.h"
 
 #include <gtest/gtest.h>
 

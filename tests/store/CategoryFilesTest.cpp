@@ -1,8 +1,8 @@
 #include "store/CategoryFiles.h"
 
-#include "base/Ansi.h"
 #include "store/CategoryNames.h"
 #include "support/ProgramFolder.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // An item editor over a small world of categories, driven through its controls as a user does.
 #pragma once
 
-#include "base/Ansi.h"
 #include "itemeditor/AvailabilityEditor.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
@@ -11,6 +10,7 @@
 #include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
+#include "text/Ansi.h"
 
 #include <algorithm>
 #include <map>

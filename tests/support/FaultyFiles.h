@@ -1,7 +1,7 @@
 // The file system with a fault in it, to try every operation of a sequence as the one that breaks.
 #pragma once
 
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 
 #include <set>
 

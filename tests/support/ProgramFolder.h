@@ -1,8 +1,8 @@
 // A program folder of its own for one test, removed at the end.
 #pragma once
 
-#include "base/Ansi.h"
 #include "base/Variablen.h"
+#include "text/Ansi.h"
 
 #include <gtest/gtest.h>
 

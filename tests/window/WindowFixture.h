@@ -1,8 +1,8 @@
 // A window over a small program folder of its own, with a driver for it.
 #pragma once
 
-#include "base/Ansi.h"
 #include "support/ProgramFolder.h"
+#include "text/Ansi.h"
 #include "window/WindowDriver.h"
 
 #include <gtest/gtest.h>

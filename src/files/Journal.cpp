@@ -1,6 +1,6 @@
-#include "base/Journal.h"
+#include "files/Journal.h"
 
-#include "base/LineReader.h"
+#include "text/LineReader.h"
 
 #include <charconv>
 

@@ -1,6 +1,6 @@
-#include "base/GermanNumber.h"
+#include "text/GermanNumber.h"
 
-#include "base/Ansi.h"
+#include "text/Ansi.h"
 
 #include <algorithm>
 #include <array>

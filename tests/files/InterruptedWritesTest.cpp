@@ -1,6 +1,6 @@
-#include "base/FileWriting.h"
-#include "base/Journal.h"
 #include "base/Subs.h"
+#include "files/FileWriting.h"
+#include "files/Journal.h"
 #include "support/FaultyFiles.h"
 #include "support/ProgramFolder.h"
 

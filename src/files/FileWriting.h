@@ -4,8 +4,8 @@
 // are bound together by a journal; what it announces is carried out before any file is rewritten.
 #pragma once
 
-#include "base/FileFailure.h"
-#include "base/FileLayer.h"
+#include "files/FileFailure.h"
+#include "files/FileLayer.h"
 
 #include <optional>
 #include <string>

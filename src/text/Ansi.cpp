@@ -1,4 +1,4 @@
-#include "base/Ansi.h"
+#include "text/Ansi.h"
 
 namespace emporium {
 

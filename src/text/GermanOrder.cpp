@@ -1,6 +1,6 @@
-#include "base/GermanOrder.h"
+#include "text/GermanOrder.h"
 
-#include "base/Ansi.h"
+#include "text/Ansi.h"
 
 #include <algorithm>
 #include <array>

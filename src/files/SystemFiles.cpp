@@ -1,5 +1,5 @@
 // The one file that knows which system the program runs on.
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 
 #include <cerrno>
 

@@ -1,7 +1,7 @@
 // What went wrong with a file, and how the user is told.
 #pragma once
 
-#include "base/FileLayer.h"
+#include "files/FileLayer.h"
 
 #include <filesystem>
 #include <string>

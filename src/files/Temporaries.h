@@ -2,8 +2,8 @@
 // FileWriting): making one, and clearing away what a killed run left of them.
 #pragma once
 
-#include "base/FileFailure.h"
-#include "base/FileLayer.h"
+#include "files/FileFailure.h"
+#include "files/FileLayer.h"
 
 #include <optional>
 #include <string_view>

@@ -1,6 +1,6 @@
-#include "base/FileFailure.h"
+#include "files/FileFailure.h"
 
-#include "base/Ansi.h"
+#include "text/Ansi.h"
 
 #include <array>
 

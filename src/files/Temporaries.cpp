@@ -1,4 +1,4 @@
-#include "base/Temporaries.h"
+#include "files/Temporaries.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
-#include "base/FileWriting.h"
+#include "files/FileWriting.h"
 
-#include "base/Journal.h"
-#include "base/Temporaries.h"
+#include "files/Journal.h"
+#include "files/Temporaries.h"
 
 #include <algorithm>
 
