@@ -38,7 +38,7 @@ public:
         dialog_.cmbShopRegion.Select(3);
     }
 
-    void Run() { GenerateShop(dialog_, shop_, regions_, world_.platform, world_.folders); }
+    void Run() { GenerateShop(dialog_, shop_, world_.platform); }
 
     std::int64_t throws = 0;
 
@@ -46,7 +46,6 @@ private:
     World world_;
     bool regionCounts_;
     Dice dice_{SecondsSinceMidnight};
-    RegionTable regions_ = RegionInit();
     ShopEditor shop_;
     frmEmporiumGenerator dialog_;
 };
@@ -76,7 +75,7 @@ ItemEditor AllItems(std::int64_t items) {
     const World world(static_cast<int>(items), Categories);
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
-    LoadItems(editor, world.platform, world.folders);
+    LoadItems(editor, world.platform);
     return editor;
 }
 
@@ -146,7 +145,7 @@ void ReadSetting(benchmark::State& state) {
     const World world(0, 1);
     const auto file = world.WriteData("Settings.dat", Settings(state.range(0)));
     for (auto _ : state)
-        benchmark::DoNotOptimize(ReadIniValue(world.platform.files, file, "Region", "Key17"));
+        benchmark::DoNotOptimize(ReadIniValue(world.platform.disk.files, file, "Region", "Key17"));
 }
 
 // A name of two lists.
@@ -157,7 +156,7 @@ void DrawName(benchmark::State& state) {
     Dice dice(SecondsSinceMidnight);
     const Die die = [&dice](std::int32_t n) { return dice.RollDice(n); };
     for (auto _ : state) {
-        NameLists lists(world.platform.files, world.folders, die);
+        NameLists lists(world.platform.disk, die);
         std::string sex = "Weiblich";
         benchmark::DoNotOptimize(GenName(lists, "Gareth", sex));
     }
@@ -168,7 +167,7 @@ void Read(benchmark::State& state, const std::string& text, int times) {
     const auto file = world.WriteData("Lines.dat", text);
     for (auto _ : state)
         for (int time = 0; time < times; ++time)
-            benchmark::DoNotOptimize(CountLines(world.platform.files, file));
+            benchmark::DoNotOptimize(CountLines(world.platform.disk.files, file));
 }
 
 // Start-up with a list of that many categories.
@@ -177,7 +176,7 @@ void CategoryList(benchmark::State& state) {
     for (auto _ : state) {
         ItemEditor editor;
         std::vector<std::string> faults;
-        ReadCategoryList(editor, world.platform.files, world.folders, faults);
+        ReadCategoryList(editor, world.platform.disk, faults);
         benchmark::DoNotOptimize(editor);
     }
 }

@@ -18,16 +18,15 @@ namespace {
 void ReadCategory(benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), 1);
     for (auto _ : state)
-        benchmark::DoNotOptimize(
-            ReadCategoryFile(world.platform.files, world.folders, CategoryName(0)));
+        benchmark::DoNotOptimize(ReadCategoryFile(world.platform.disk, CategoryName(0)));
 }
 
 void Read(int categories, benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), categories);
     for (auto _ : state)
         for (int c = 0; c < categories; ++c)
-            benchmark::DoNotOptimize(
-                CountLines(world.platform.files, CategoryPath(world.folders, CategoryName(c))));
+            benchmark::DoNotOptimize(CountLines(world.platform.disk.files,
+                                                CategoryPath(world.folders, CategoryName(c))));
 }
 
 // The list is sorted, too.
@@ -36,7 +35,7 @@ void LoadAlles(benchmark::State& state) {
     ItemEditor editor;
     editor.cmbKategorien.Select(0);
     for (auto _ : state)
-        LoadItems(editor, world.platform, world.folders);
+        LoadItems(editor, world.platform);
     if (editor.ItemCount() != state.range(0))
         state.SkipWithError("not all items were loaded");
 }
@@ -55,19 +54,20 @@ void WriteAndFlush(const FileLayer& files, const std::filesystem::path& file,
 
 void WriteCategory(benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), 1);
-    const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
+    const auto file = ReadCategoryFile(world.platform.disk, CategoryName(0));
     for (auto _ : state) {
         const std::string text = WithRecordAt(*file.bytes, file.records[7], World::Record(7));
-        if (WriteFile(world.platform.files, CategoryPath(world.folders, CategoryName(0)), text))
+        if (WriteFile(world.platform.disk.files, CategoryPath(world.folders, CategoryName(0)),
+                      text))
             state.SkipWithError("the file was not written");
     }
 }
 
 void Write(int categories, benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), categories);
-    const auto file = ReadCategoryFile(world.platform.files, world.folders, CategoryName(0));
+    const auto file = ReadCategoryFile(world.platform.disk, CategoryName(0));
     for (auto _ : state)
-        WriteAndFlush(world.platform.files, world.folders.TempFolder / "bytes.dat", *file.bytes);
+        WriteAndFlush(world.folders.TempFolder / "bytes.dat", *file.bytes);
 }
 
 // A changed item, in a view of one category or of all.
@@ -75,13 +75,13 @@ void Save(int categories, int view, benchmark::State& state) {
     World world(static_cast<int>(state.range(0)), categories);
     ItemEditor editor;
     std::vector<std::string> faults;
-    ReadCategoryList(editor, world.platform.files, world.folders, faults);
-    ChooseCategory(editor, world.platform, world.folders, view);
+    ReadCategoryList(editor, world.platform.disk, faults);
+    ChooseCategory(editor, world.platform, view);
     int change = 0;
     for (auto _ : state) {
-        ChooseItemRow(editor, world.platform, world.folders, 7);
+        ChooseItemRow(editor, world.platform, 7);
         EditItemText(editor, WeightText, std::to_string(++change));
-        SaveItem(editor, world.platform, world.folders);
+        SaveItem(editor, world.platform);
     }
 }
 
@@ -107,7 +107,7 @@ public:
         : world(static_cast<int>(records / 2), 1),
           category(CategoryPath(world.folders, FixedCategories()[2])),
           source(world.WriteData("Arsenal" / category.filename(), Source(records / 2))),
-          filled_(world.platform.files.read(CategoryPath(world.folders, CategoryName(0)))) {}
+          filled_(world.platform.disk.files.read(CategoryPath(world.folders, CategoryName(0)))) {}
 
     void Prepare() const { std::ofstream(category, std::ios::binary) << filled_.bytes; }
 
@@ -125,7 +125,7 @@ void Import(benchmark::State& state) {
         state.PauseTiming();
         import.Prepare();
         state.ResumeTiming();
-        ImportArsenal(import.world.platform.files, import.world.folders, faults);
+        ImportArsenal(import.world.platform.disk, faults);
     }
     if (!faults.empty())
         state.SkipWithError(faults.front().c_str());
@@ -134,10 +134,10 @@ void Import(benchmark::State& state) {
 // Reads source and category, writes the category as it is afterwards.
 void BoundImport(benchmark::State& state) {
     const ImportWorld import(state.range(0));
-    const FileLayer& files = import.world.platform.files;
+    const FileLayer& files = import.world.platform.disk.files;
     std::vector<std::string> faults;
     import.Prepare();
-    ImportArsenal(files, import.world.folders, faults);
+    ImportArsenal(Disk{files, import.world.folders}, faults);
     const FileText imported = files.read(import.category);
     for (auto _ : state) {
         state.PauseTiming();
@@ -145,7 +145,7 @@ void BoundImport(benchmark::State& state) {
         state.ResumeTiming();
         benchmark::DoNotOptimize(CountLines(files, import.source));
         benchmark::DoNotOptimize(CountLines(files, import.category));
-        WriteAndFlush(files, import.world.folders.TempFolder / "bytes.dat", imported.bytes);
+        WriteAndFlush(import.world.folders.TempFolder / "bytes.dat", imported.bytes);
     }
 }
 

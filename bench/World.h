@@ -52,7 +52,7 @@ public:
         Write("ItemKategorien.dat", list);
         Write("ShopgeneratorShops.dat", "Alles\r\n");
         Write("ShopgeneratorConfig.dat", config);
-        platform.files = SystemFiles();
+        platform.disk = {SystemFiles(), folders};
         platform.ShowMessage = [](std::string_view) {};
         platform.SetWaitPointer = [](bool) {};
     }

@@ -3,6 +3,7 @@
 // and anything may have changed when the call returns.
 #pragma once
 
+#include "base/Disk.h"
 #include "base/Subs.h"
 #include "files/FileLayer.h"
 
@@ -24,7 +25,7 @@ struct YesNoBox {
 };
 
 struct Platform {
-    FileLayer files;
+    Disk disk;
 
     Die RollDice;
 

@@ -23,13 +23,13 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
 
 // Writes the document and has the view load it. Leaves the text of a box in `fault` if that failed;
 // true if the page is there.
-bool Load(PrintHost& host, const Platform& platform, const Folders& folders,
+bool Load(PrintHost& host, const Platform& platform,
           const std::function<void(std::string& file)>& writer, std::string& fault) {
-    const auto page = folders.TempFolder / "Temp.html";
+    const auto page = platform.disk.folders.TempFolder / "Temp.html";
     host.PreviewReady = false;
     std::string document;
     writer(document);
-    if (const auto failure = WriteFile(platform.files, page, std::move(document))) {
+    if (const auto failure = WriteFile(platform.disk.files, page, std::move(document))) {
         fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
         return false;
     }
@@ -42,11 +42,11 @@ bool Load(PrintHost& host, const Platform& platform, const Folders& folders,
 }
 
 // The result is the text of a box, empty if all is well.
-std::string Print(PrintHost& host, const Platform& platform, const Folders& folders,
+std::string Print(PrintHost& host, const Platform& platform,
                   const std::function<void(std::string& file)>& writer) {
     std::string fault;
     platform.SetWaitPointer(true);
-    const bool loaded = Load(host, platform, folders, writer, fault);
+    const bool loaded = Load(host, platform, writer, fault);
     platform.SetWaitPointer(false);
     if (loaded && !platform.Browser.Print())
         fault = "Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst abgebrochen "
@@ -56,13 +56,13 @@ std::string Print(PrintHost& host, const Platform& platform, const Folders& fold
 
 } // namespace
 
-void PrintTempDocument(PrintHost& host, const Platform& platform, const Folders& folders,
+void PrintTempDocument(PrintHost& host, const Platform& platform,
                        const std::function<void(std::string& file)>& writer) {
     if (host.busy)
         return;
     host.busy = true;
     platform.Browser.SetVisible(true);
-    const std::string fault = Print(host, platform, folders, writer);
+    const std::string fault = Print(host, platform, writer);
     platform.Browser.SetVisible(false);
     host.busy = false;
     if (!fault.empty())

@@ -64,14 +64,15 @@ void WriteShopPrint(const ShopEditor& shop, std::string& file) {
     HTMLLine("</table>", file);
 }
 
-void ExportShop(const ShopEditor& shop, const Platform& platform, const Folders& folders) {
-    const auto target = platform.ShowSave(folders.HtmlFolder, "HTML-Dateien (*.html)|*.html");
+void ExportShop(const ShopEditor& shop, const Platform& platform) {
+    const auto target =
+        platform.ShowSave(platform.disk.folders.HtmlFolder, "HTML-Dateien (*.html)|*.html");
     if (target.empty())
         return;
     platform.SetWaitPointer(true);
     std::string document;
     WriteShopExport(shop, document);
-    const auto failure = WriteFile(platform.files, target, std::move(document));
+    const auto failure = WriteFile(platform.disk.files, target, std::move(document));
     platform.SetWaitPointer(false);
     if (failure) {
         platform.ShowMessage(FailureText("Der Shop konnte nicht gespeichert werden.", *failure));

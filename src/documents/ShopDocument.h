@@ -15,6 +15,6 @@ void WriteShopPrint(const ShopEditor& shop, std::string& file);
 
 /// cmdShopExport: asks for a file, writes the shop into it and offers to show it. If the file can't
 /// be written, a box says so, and a file that was there before stays as it was.
-void ExportShop(const ShopEditor& shop, const Platform& platform, const Folders& folders);
+void ExportShop(const ShopEditor& shop, const Platform& platform);
 
 } // namespace emporium

@@ -37,7 +37,7 @@ constexpr std::string_view NoPrinting =
 // Told at the start, before a save or a print fails. Empty if nothing stands in the way of writing.
 std::string NoWritingText(const Platform& platform, const std::filesystem::path& folder,
                           std::string_view consequence) {
-    const auto failure = TryWriting(platform.files, folder);
+    const auto failure = TryWriting(platform.disk.files, folder);
     return failure ? FailureText(consequence, *failure) : std::string();
 }
 
@@ -55,27 +55,24 @@ std::string NoDataText(const Folders& folders) {
 }
 
 // While an interrupted write can't be finished, nothing is written on top of it.
-void BringUpToDate(const Platform& platform, const Folders& folders,
-                   std::vector<std::string>& faults) {
-    if (const auto failure = FinishInterruptedWrites(platform.files, folders.EmporiumFolder())) {
+void BringUpToDate(const Platform& platform, std::vector<std::string>& faults) {
+    if (const auto failure =
+            FinishInterruptedWrites(platform.disk.files, platform.disk.folders.EmporiumFolder())) {
         faults.push_back(FaultLine(*failure));
         return;
     }
     // Half a page that stays because it can't be removed does no harm.
-    for (const auto& pages : {folders.HtmlFolder, folders.TempFolder})
-        RemoveStrays(platform.files, pages);
-    RenameOldCategoryFiles(platform.files, folders, faults);
-    ImportArsenal(platform.files, folders, faults);
+    for (const auto& pages : {platform.disk.folders.HtmlFolder, platform.disk.folders.TempFolder})
+        RemoveStrays(platform.disk.files, pages);
+    RenameOldCategoryFiles(platform.disk, faults);
+    ImportArsenal(platform.disk, faults);
 }
 
 } // namespace
 
-bool StartUp(frmEmporiumMain& window, const Platform& platform,
-             const std::filesystem::path& programFolder) {
+bool StartUp(frmEmporiumMain& window, const Platform& platform) {
     std::vector<std::string> faults;
-    window.folders = InitFolders(programFolder);
-    window.regions = RegionInit();
-    const Folders& folders = window.folders;
+    const Folders& folders = platform.disk.folders;
     window.claim = ClaimFolder(folders.EmporiumFolder());
     if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
@@ -85,10 +82,10 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform,
         notice = NoWritingText(platform, folders.EmporiumFolder(), NoChanges);
     // What another copy is just writing looks like something to be finished.
     if (notice.empty() && !window.claim.takenElsewhere)
-        BringUpToDate(platform, folders, faults);
+        BringUpToDate(platform, faults);
     if (notice.empty())
         notice = NoWritingText(platform, folders.TempFolder, NoPrinting);
-    ReadCategoryList(window.items, platform.files, folders, faults);
+    ReadCategoryList(window.items, platform.disk, faults);
     window.caption = Caption();
     if (hasData && !faults.empty())
         notice += (notice.empty() ? "" : "\n\n") + FaultsText(faults);
@@ -110,8 +107,8 @@ void ShowShopEditor(frmEmporiumMain& window) {
     UpdateShopButtons(window.shop);
 }
 
-void OpenHelp(const frmEmporiumMain& window, const Platform& platform) {
-    platform.OpenInViewer(window.folders.HilfeFolder / "Emporium.htm");
+void OpenHelp(const Platform& platform) {
+    platform.OpenInViewer(platform.disk.folders.HilfeFolder / "Emporium.htm");
 }
 
 } // namespace emporium

@@ -7,7 +7,6 @@
 #include "documents/PrintHost.h"
 #include "generator/frmEmporiumGenerator.h"
 #include "itemeditor/ItemEditor.h"
-#include "regions/AtlasEngine.h"
 #include "shopeditor/ShopEditor.h"
 
 #include <string>
@@ -17,9 +16,7 @@ namespace emporium {
 enum class Mode { ItemEditor, ShopEditor };
 
 struct frmEmporiumMain {
-    Folders folders;
     FolderClaim claim;
-    RegionTable regions;
     std::string caption;
     Mode mode = Mode::ItemEditor;
     ItemEditor items;
@@ -33,13 +30,12 @@ struct frmEmporiumMain {
 /// another copy of the program uses the same data, a box asks whether to go on; false if not. A
 /// data folder that is missing or can't be written is told, too, and stays as it is; so is a folder
 /// for pages that can't be written.
-bool StartUp(frmEmporiumMain& window, const Platform& platform,
-             const std::filesystem::path& programFolder);
+bool StartUp(frmEmporiumMain& window, const Platform& platform);
 
 void ShowItemEditor(frmEmporiumMain& window);
 void ShowShopEditor(frmEmporiumMain& window);
 
 /// Opens the help page in the system's viewer. A failure goes unseen.
-void OpenHelp(const frmEmporiumMain& window, const Platform& platform);
+void OpenHelp(const Platform& platform);
 
 } // namespace emporium

@@ -9,10 +9,9 @@ namespace emporium {
 
 namespace {
 
-FileText ReadConfigFile(const FileLayer& files, const Folders& folders, const char* name,
-                        std::vector<std::string>& faults) {
-    const auto file = folders.EmporiumFolder() / name;
-    FileText text = files.read(file);
+FileText ReadConfigFile(const Disk& disk, const char* name, std::vector<std::string>& faults) {
+    const auto file = disk.folders.EmporiumFolder() / name;
+    FileText text = disk.files.read(file);
     if (!text.IsWhole())
         faults.push_back(FaultLine({file, ReasonOf(text)}));
     return text;
@@ -20,9 +19,8 @@ FileText ReadConfigFile(const FileLayer& files, const Folders& folders, const ch
 
 } // namespace
 
-std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
-                                       std::vector<std::string>& faults) {
-    const FileText text = ReadConfigFile(files, folders, "ShopgeneratorShops.dat", faults);
+std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string>& faults) {
+    const FileText text = ReadConfigFile(disk, "ShopgeneratorShops.dat", faults);
     std::vector<std::string> types;
     LineReader lines(text.bytes);
     for (std::string_view line; types.size() < MaxRows && lines.Next(line);)
@@ -35,9 +33,8 @@ std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& fo
     return types;
 }
 
-IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
-                            std::vector<std::string>& faults) {
-    return IniFile(ReadConfigFile(files, folders, "ShopgeneratorConfig.dat", faults).bytes);
+IniFile ReadGeneratorConfig(const Disk& disk, std::vector<std::string>& faults) {
+    return IniFile(ReadConfigFile(disk, "ShopgeneratorConfig.dat", faults).bytes);
 }
 
 std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType) {

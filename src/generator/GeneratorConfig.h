@@ -1,8 +1,8 @@
 // What the generator knows of shop types: two files that a user extends with a text editor.
 #pragma once
 
+#include "base/Disk.h"
 #include "base/Subs.h"
-#include "base/Variablen.h"
 #include "files/FileLayer.h"
 
 #include <cstdint>
@@ -13,18 +13,16 @@
 
 namespace emporium {
 
-/// The shop types in file order, an empty line as an empty type, at most MaxRows of them. Adds to
-/// `faults` what could not be read, or that the file is empty; a missing one gives no types.
-std::vector<std::string> ReadShopTypes(const FileLayer& files, const Folders& folders,
-                                       std::vector<std::string>& faults);
+/// The shop types in file order, an empty line as an empty type, at most MaxRows of them. Adds
+/// to `faults` what could not be read, or that the file is empty; a missing one gives no types.
+std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string>& faults);
 
-/// The file that tells which categories a type draws on; empty if it can't be read, which is added
-/// to `faults`.
-IniFile ReadGeneratorConfig(const FileLayer& files, const Folders& folders,
-                            std::vector<std::string>& faults);
+/// The file that tells which categories a type draws on; empty if it can't be read, which is
+/// added to `faults`.
+IniFile ReadGeneratorConfig(const Disk& disk, std::vector<std::string>& faults);
 
-/// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing if
-/// the file does not tell it or tells no number.
+/// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing
+/// if the file does not tell it or tells no number.
 std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType);
 
 /// The category of number n, from 1, empty if the type names none.

@@ -26,8 +26,7 @@ bool PassesRarity(std::string_view nameLine, int quality, const Die& RollDice) {
 }
 
 // The distance from the nearest region where the ware is made.
-int NearestDistance(std::string_view availability, std::string_view region,
-                    const RegionTable& regions) {
+int NearestDistance(std::string_view availability, std::string_view region) {
     if (availability.find(region) != availability.npos)
         return 0;
     // Three characters a code, rounded; a string of another form may have fewer entries.
@@ -35,25 +34,24 @@ int NearestDistance(std::string_view availability, std::string_view region,
     const auto entries = AvailabilityCodes(availability);
     int smallest = StartDistance;
     for (std::size_t i = 0; i < std::min(codes, entries.size()) && smallest != 1; ++i) {
-        const int distance = RegionDistance(regions, entries[i], region).value_or(0);
+        const int distance = RegionDistance(entries[i], region).value_or(0);
         smallest = std::min(smallest, distance);
     }
     return smallest;
 }
 
-bool PassesRegion(std::string_view availability, std::string_view region,
-                  const RegionTable& regions, const Die& RollDice) {
+bool PassesRegion(std::string_view availability, std::string_view region, const Die& RollDice) {
     if (availability.empty())
         return false;
-    return RollDice(20) < 20 - 3 * NearestDistance(availability, region, regions);
+    return RollDice(20) < 20 - 3 * NearestDistance(availability, region);
 }
 
 // Draws from one category into the shop, without regard to the list's order. False if the shop is
 // full.
-bool DrawCategory(RecordReader& reader, const ShopWishes& wishes, const RegionTable& regions,
-                  const Die& RollDice, ShopEditor& shop) {
+bool DrawCategory(RecordReader& reader, const ShopWishes& wishes, const Die& RollDice,
+                  ShopEditor& shop) {
     for (RecordView record; reader.Next(record);) {
-        if (!DrawRecord(record, wishes, regions, RollDice))
+        if (!DrawRecord(record, wishes, RollDice))
             continue;
         if (ShopIsFull(shop))
             return false;
@@ -63,27 +61,27 @@ bool DrawCategory(RecordReader& reader, const ShopWishes& wishes, const RegionTa
     return true;
 }
 
-void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const RegionTable& regions,
-              const Platform& platform, const Folders& folders, std::vector<std::string>& faults) {
+void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
+              std::vector<std::string>& faults) {
     const std::string shopType = dialog.cmbShopBeruf.Text();
     const std::string region = dialog.cmbShopRegion.Text();
     const ShopWishes wishes{dialog.cmbShopQualität.Text().front() - '0',
                             dialog.chkShopRegion.ticked, region};
-    const IniFile config = ReadGeneratorConfig(platform.files, folders, faults);
+    const IniFile config = ReadGeneratorConfig(platform.disk, faults);
     const auto count = ReadWareCount(config, shopType);
     if (!count && faults.empty())
         faults.emplace_back("ShopgeneratorConfig.dat: Zu dieser Shopart fehlt die Zeile WareCount, "
                             "oder sie nennt keine Zahl.");
     for (int n = 1; n <= count.value_or(0); ++n) {
         const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
-        const auto file = CategoryPath(folders, name);
+        const auto file = CategoryPath(platform.disk.folders, name);
         if (!IsPlainName(name) || !FileExists(file))
             continue;
-        const FileText category = platform.files.read(file);
+        const FileText category = platform.disk.files.read(file);
         if (category.state == FileText::State::Unreadable)
             faults.push_back(FaultLine({file, category.reason}));
         RecordReader reader(category.bytes);
-        if (!DrawCategory(reader, wishes, regions, platform.RollDice, shop)) {
+        if (!DrawCategory(reader, wishes, platform.RollDice, shop)) {
             faults.emplace_back(ShopFullText);
             return;
         }
@@ -93,32 +91,29 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Region
 }
 
 // The choices count like choices of the user.
-void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
-              const Folders& folders) {
+void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform) {
     shop.cmbShopQualität.Select(dialog.cmbShopQualität.Selection());
     if (shop.ShopCount() > 0)
         ChoosePriceLevel(shop, dialog.cmbShopPreise.Selection());
-    ChooseShopRegion(shop, platform, folders, dialog.cmbShopRegion.Selection());
+    ChooseShopRegion(shop, platform, dialog.cmbShopRegion.Selection());
     shop.txtShopart.text = dialog.cmbShopBeruf.Text();
 }
 
 } // namespace
 
-bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const RegionTable& regions,
-                const Die& RollDice) {
+bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const Die& RollDice) {
     return PassesRarity(record[NameField], wishes.quality, RollDice) &&
            (!wishes.regionCounts ||
-            PassesRegion(record[AvailabilityField], wishes.region, regions, RollDice));
+            PassesRegion(record[AvailabilityField], wishes.region, RollDice));
 }
 
-void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const RegionTable& regions,
-                  const Platform& platform, const Folders& folders) {
+void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform) {
     platform.SetWaitPointer(true);
     std::vector<std::string> faults;
-    DrawShop(dialog, shop, regions, platform, folders, faults);
+    DrawShop(dialog, shop, platform, faults);
     ArrangeShopList(shop);
     UpdateShopButtons(shop);
-    HandOver(dialog, shop, platform, folders);
+    HandOver(dialog, shop, platform);
     platform.SetWaitPointer(false);
     dialog.open = false;
     if (!faults.empty())

@@ -22,13 +22,11 @@ struct ShopWishes {
 
 /// The record test: throws the dice for one record. A record whose name line does not end in the
 /// digit 1 to 5 never passes, nor does one without a region if the region counts.
-bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const RegionTable& regions,
-                const Die& RollDice);
+bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const Die& RollDice);
 
 /// Fills the emptied shop from the dialog's choices, hands these over to the shop's fields and
 /// closes the dialog. Categories without a file are passed over; what can't be read, and a shop
 /// that is full, is told in one box.
-void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const RegionTable& regions,
-                  const Platform& platform, const Folders& folders);
+void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform);
 
 } // namespace emporium

@@ -20,8 +20,7 @@ std::string GeneratorCaption() {
     return std::string(ProgramTitle) + " - Shopgenerator";
 }
 
-void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
-                   const Folders& folders) {
+void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform) {
     if (shop.ShopCount() > 0 &&
         !platform.AskYesNo({std::string("Ihr arbeitet momentan an einem Shop, beim Start des "
                                         "Generators werden sämtliche Werte verworfen ! Wollt ihr "
@@ -30,7 +29,7 @@ void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfor
         return;
     dialog = frmEmporiumGenerator();
     std::vector<std::string> faults;
-    dialog.cmbShopBeruf.AddAll(ReadShopTypes(platform.files, folders, faults));
+    dialog.cmbShopBeruf.AddAll(ReadShopTypes(platform.disk, faults));
     ClearShop(shop);
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
@@ -54,11 +53,9 @@ void ChooseGeneratorQuality(frmEmporiumGenerator& dialog, int index) {
     UpdateStartButton(dialog);
 }
 
-void ChooseGeneratorRegion(frmEmporiumGenerator& dialog, const Platform& platform,
-                           const Folders& folders, int index) {
+void ChooseGeneratorRegion(frmEmporiumGenerator& dialog, const Platform& platform, int index) {
     dialog.cmbShopRegion.Select(index);
-    dialog.lblRegionen.caption =
-        RegionDescription(platform.files, folders, dialog.cmbShopRegion.Text());
+    dialog.lblRegionen.caption = RegionDescription(platform.disk, dialog.cmbShopRegion.Text());
     UpdateStartButton(dialog);
 }
 

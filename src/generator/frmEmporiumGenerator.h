@@ -29,15 +29,13 @@ std::string GeneratorCaption();
 
 /// Asks before a shop that has wares is thrown away, then opens the dialog with no choice made and
 /// the shop emptied. Returns when the dialog has been closed.
-void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
-                   const Folders& folders);
+void OpenGenerator(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform);
 
 /// Choices in the dialog's lists, and the check box.
 void ChooseShopType(frmEmporiumGenerator& dialog, int index);
 void ChooseGeneratorPrices(frmEmporiumGenerator& dialog, int index);
 void ChooseGeneratorQuality(frmEmporiumGenerator& dialog, int index);
-void ChooseGeneratorRegion(frmEmporiumGenerator& dialog, const Platform& platform,
-                           const Folders& folders, int index);
+void ChooseGeneratorRegion(frmEmporiumGenerator& dialog, const Platform& platform, int index);
 void TickShopRegion(frmEmporiumGenerator& dialog, bool ticked);
 
 /// A run needs a type, prices and a quality, and a region if that is to count.

@@ -15,9 +15,8 @@ void MoveSelected(ChoiceList& from, ChoiceList& to) {
     from.RemoveSelected();
 }
 
-void ShowRegionName(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                    std::string_view code) {
-    editor.lblRegionen.caption = RegionDescription(platform.files, folders, code);
+void ShowRegionName(ItemEditor& editor, const Platform& platform, std::string_view code) {
+    editor.lblRegionen.caption = RegionDescription(platform.disk, code);
 }
 
 } // namespace
@@ -30,10 +29,10 @@ void MoveRegionOut(ItemEditor& editor) {
     MoveSelected(editor.lstVerfügbar, editor.lstRegionen);
 }
 
-void MoveAllRegionsIn(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void MoveAllRegionsIn(ItemEditor& editor, const Platform& platform) {
     if (editor.lstRegionen.Entries().empty())
         return;
-    ShowRegionName(editor, platform, folders, editor.lstRegionen.Entries().back());
+    ShowRegionName(editor, platform, editor.lstRegionen.Entries().back());
     while (!editor.lstRegionen.Entries().empty()) {
         editor.lstRegionen.Select(0);
         MoveSelected(editor.lstRegionen, editor.lstVerfügbar);
@@ -47,13 +46,12 @@ void ReturnAllRegions(ItemEditor& editor) {
     }
 }
 
-void SelectRegion(ItemEditor& editor, const Platform& platform, const Folders& folders, int index) {
+void SelectRegion(ItemEditor& editor, const Platform& platform, int index) {
     editor.lstRegionen.Select(index);
-    ShowRegionName(editor, platform, folders, editor.lstRegionen.Text());
+    ShowRegionName(editor, platform, editor.lstRegionen.Text());
 }
 
-void ShowAvailability(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                      std::string_view availability) {
+void ShowAvailability(ItemEditor& editor, const Platform& platform, std::string_view availability) {
     ReturnAllRegions(editor);
     auto pieces = AvailabilityCodes(availability);
     if (availability.ends_with('|'))
@@ -72,7 +70,7 @@ void ShowAvailability(ItemEditor& editor, const Platform& platform, const Folder
             MoveRegionIn(editor);
     }
     if (!walked.empty())
-        ShowRegionName(editor, platform, folders, walked);
+        ShowRegionName(editor, platform, walked);
 }
 
 } // namespace emporium

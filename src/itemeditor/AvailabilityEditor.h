@@ -13,14 +13,13 @@ namespace emporium {
 void MoveRegionIn(ItemEditor& editor);
 void MoveRegionOut(ItemEditor& editor);
 
-void MoveAllRegionsIn(ItemEditor& editor, const Platform& platform, const Folders& folders);
+void MoveAllRegionsIn(ItemEditor& editor, const Platform& platform);
 void ReturnAllRegions(ItemEditor& editor);
 
 /// The selection in lstRegionen: the label below takes the region's long name.
-void SelectRegion(ItemEditor& editor, const Platform& platform, const Folders& folders, int index);
+void SelectRegion(ItemEditor& editor, const Platform& platform, int index);
 
 /// Sets the lists to an availability string. Pieces that are no region are passed over.
-void ShowAvailability(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                      std::string_view availability);
+void ShowAvailability(ItemEditor& editor, const Platform& platform, std::string_view availability);
 
 } // namespace emporium

@@ -42,24 +42,23 @@ void AddToView(ItemEditor& editor, const std::string& name, const CategoryFile& 
 
 // The names that the view of the chosen entry is made of.
 std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& platform,
-                                     const Folders& folders, std::vector<std::string>& faults) {
+                                     std::vector<std::string>& faults) {
     const std::string chosen = editor.cmbKategorien.Text();
     if (chosen.empty())
         return {};
     if (chosen != AllCategories)
         return {chosen};
-    CategoryList list = ReadCategoryNames(platform.files, folders);
+    CategoryList list = ReadCategoryNames(platform.disk);
     if (const auto fault = CategoryListFault(list); !fault.empty())
         faults.push_back(fault);
     return std::move(list.names);
 }
 
 // The records of the chosen entry; nothing of the form.
-void ReadView(ItemEditor& editor, const Platform& platform, const Folders& folders,
-              std::vector<std::string>& faults) {
+void ReadView(ItemEditor& editor, const Platform& platform, std::vector<std::string>& faults) {
     ResetView(editor);
-    for (const std::string& name : NamesOfView(editor, platform, folders, faults))
-        AddToView(editor, name, ReadCategoryFile(platform.files, folders, name), faults);
+    for (const std::string& name : NamesOfView(editor, platform, faults))
+        AddToView(editor, name, ReadCategoryFile(platform.disk, name), faults);
     editor.CurrentItemRow = editor.Items.empty() ? -1 : 0;
     FillItemList(editor);
 }
@@ -84,11 +83,10 @@ constexpr std::string_view NotCreated = "Die Kategorie konnte nicht angelegt wer
 constexpr std::string_view NotDeleted = "Die Kategorie konnte nicht gelöscht werden."_ansi;
 
 // The list as it stands on the disk. False, after a box, if it can't be changed.
-bool ReadListToChange(const Platform& platform, const Folders& folders, std::string_view what,
-                      CategoryList& list) {
-    if (!ReadyToWrite(platform, folders))
+bool ReadListToChange(const Platform& platform, std::string_view what, CategoryList& list) {
+    if (!ReadyToWrite(platform))
         return false;
-    list = ReadCategoryNames(platform.files, folders);
+    list = ReadCategoryNames(platform.disk);
     const std::string fault = CategoryListFault(list);
     if (!fault.empty())
         platform.ShowMessage(std::string(what) + "\n\n" + fault);
@@ -96,12 +94,12 @@ bool ReadListToChange(const Platform& platform, const Folders& folders, std::str
 }
 
 // A usable name from the user and the list that it is to enter; an empty name if he gives up.
-std::string AskCategoryName(const Platform& platform, const Folders& folders, CategoryList& list) {
+std::string AskCategoryName(const Platform& platform, CategoryList& list) {
     for (;;) {
         std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.");
-        if (name.empty() || !ReadListToChange(platform, folders, NotCreated, list))
+        if (name.empty() || !ReadListToChange(platform, NotCreated, list))
             return {};
-        const std::string refusal = CategoryNameRefusal(folders, list.names, name);
+        const std::string refusal = CategoryNameRefusal(platform.disk, list.names, name);
         if (refusal.empty())
             return name;
         platform.ShowMessage(refusal);
@@ -120,14 +118,14 @@ int FindRecord(const ItemEditor& editor, const ItemEditor& before) {
 
 // Why the chosen category stays, empty if it can go.
 std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
-                          const Folders& folders, const std::string& name) {
+                          const std::string& name) {
     const int file = ViewFileOf(editor, name);
     if (file >= 0 && !editor.FileAt(file).canBeWritten)
         return name + std::string(".dat: Diese Kategorie konnte nicht vollständig gelesen werden, "
                                   "deshalb wird sie nicht gelöscht."_ansi);
-    const FileText present = platform.files.read(CategoryPath(folders, name));
+    const FileText present = platform.disk.files.read(CategoryPath(platform.disk.folders, name));
     if (present.state == FileText::State::Unreadable)
-        return FailureText(NotDeleted, {CategoryPath(folders, name), present.reason});
+        return FailureText(NotDeleted, {CategoryPath(platform.disk.folders, name), present.reason});
     if (!present.bytes.empty())
         return name + std::string(".dat: Diese Kategorie ist nicht mehr leer, denn ein anderes "
                                   "Programm hat ihre Datei geändert. Sie wird nicht gelöscht. "
@@ -137,9 +135,8 @@ std::string DeleteRefusal(const ItemEditor& editor, const Platform& platform,
 
 } // namespace
 
-void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders& folders,
-                      std::vector<std::string>& faults) {
-    CategoryList list = ReadCategoryNames(files, folders);
+void ReadCategoryList(ItemEditor& editor, const Disk& disk, std::vector<std::string>& faults) {
+    CategoryList list = ReadCategoryNames(disk);
     const bool whole = list.state == FileText::State::Whole;
     std::string fault = CategoryListFault(list);
     if (!whole)
@@ -151,15 +148,14 @@ void ReadCategoryList(ItemEditor& editor, const FileLayer& files, const Folders&
     SetCategoryNames(editor, std::move(list.names));
 }
 
-void ChooseCategory(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                    int index) {
+void ChooseCategory(ItemEditor& editor, const Platform& platform, int index) {
     editor.cmbKategorien.Select(index);
-    LoadItems(editor, platform, folders);
+    LoadItems(editor, platform);
 }
 
-void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void LoadItems(ItemEditor& editor, const Platform& platform) {
     std::vector<std::string> faults;
-    ReadView(editor, platform, folders, faults);
+    ReadView(editor, platform, faults);
     editor.lvGegenstände.visible = true;
     editor.cmdItemSave.visible = editor.cmdItemDelete.visible = editor.cmdItemNeu.visible = true;
     editor.cmbItemKategorien.Select(editor.cmbKategorien.Selection());
@@ -169,10 +165,10 @@ void LoadItems(ItemEditor& editor, const Platform& platform, const Folders& fold
         platform.ShowMessage(FaultsText(faults));
 }
 
-void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void ReloadItems(ItemEditor& editor, const Platform& platform) {
     const ItemEditor before = editor; // keeps the text of its views alive
     std::vector<std::string> faults;
-    ReadView(editor, platform, folders, faults);
+    ReadView(editor, platform, faults);
     const int row = before.CurrentItemRow < 0 ? -1 : FindRecord(editor, before);
     editor.CurrentItemRow = row;
     if (row >= 0) {
@@ -184,8 +180,8 @@ void ReloadItems(ItemEditor& editor, const Platform& platform, const Folders& fo
         platform.ShowMessage(FaultsText(faults));
 }
 
-bool ReadyToWrite(const Platform& platform, const Folders& folders) {
-    const auto failure = FinishJournal(platform.files, folders.EmporiumFolder());
+bool ReadyToWrite(const Platform& platform) {
+    const auto failure = FinishJournal(platform.disk.files, platform.disk.folders.EmporiumFolder());
     if (failure)
         platform.ShowMessage(
             FailureText("Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi, *failure));
@@ -202,14 +198,15 @@ void UpdateItemButtons(ItemEditor& editor) {
         !filled && !chosen.empty() && chosen != AllCategories && !IsFixedCategory(chosen);
 }
 
-void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void NewCategory(ItemEditor& editor, const Platform& platform) {
     CategoryList list;
-    const std::string name = AskCategoryName(platform, folders, list);
+    const std::string name = AskCategoryName(platform, list);
     if (name.empty())
         return;
-    const auto failure = WriteFiles(platform.files, folders.EmporiumFolder(),
-                                    {{CategoryListPath(folders), WithCategory(list, name)},
-                                     {CategoryPath(folders, name), std::string()}});
+    const auto failure =
+        WriteFiles(platform.disk.files, platform.disk.folders.EmporiumFolder(),
+                   {{CategoryListPath(platform.disk.folders), WithCategory(list, name)},
+                    {CategoryPath(platform.disk.folders, name), std::string()}});
     if (failure) {
         platform.ShowMessage(FailureText(NotCreated, *failure));
         return;
@@ -221,22 +218,23 @@ void NewCategory(ItemEditor& editor, const Platform& platform, const Folders& fo
         editor.viewFiles.push_back({name, std::make_shared<const std::string>(), true});
 }
 
-void DeleteCategory(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void DeleteCategory(ItemEditor& editor, const Platform& platform) {
     const std::string name = editor.cmbKategorien.Text();
     if (!platform.AskYesNo(
             {std::string("Soll die gewählte Kategorie wirklich gelöscht werden ?"_ansi)}))
         return;
     CategoryList list;
-    if (!ReadListToChange(platform, folders, NotDeleted, list))
+    if (!ReadListToChange(platform, NotDeleted, list))
         return;
-    const std::string refusal = DeleteRefusal(editor, platform, folders, name);
+    const std::string refusal = DeleteRefusal(editor, platform, name);
     if (!refusal.empty()) {
         platform.ShowMessage(refusal);
         return;
     }
-    const auto failure = WriteFiles(platform.files, folders.EmporiumFolder(),
-                                    {{CategoryListPath(folders), WithoutCategory(list, name)},
-                                     {CategoryPath(folders, name), std::nullopt}});
+    const auto failure =
+        WriteFiles(platform.disk.files, platform.disk.folders.EmporiumFolder(),
+                   {{CategoryListPath(platform.disk.folders), WithoutCategory(list, name)},
+                    {CategoryPath(platform.disk.folders, name), std::nullopt}});
     if (failure) {
         platform.ShowMessage(FailureText(NotDeleted, *failure));
         return;

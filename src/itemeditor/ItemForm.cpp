@@ -29,13 +29,13 @@ std::string Mark(const ChoiceList& list) {
 
 } // namespace
 
-void ShowItemInForm(ItemEditor& editor, const Platform& platform, const Folders& folders, int row) {
+void ShowItemInForm(ItemEditor& editor, const Platform& platform, int row) {
     const RecordView& record = editor.Record(row);
     ShowMarked(editor.txtItem[NameText], editor.cmbItemWert, record, NameField);
     editor.txtItem[WeightText].text = record[WeightField];
     ShowMarked(editor.txtItem[PriceText], editor.cmbItemPreis, record, PriceField);
     editor.txtItem[DescriptionText].text = record[DescriptionField];
-    ShowAvailability(editor, platform, folders, record[AvailabilityField]);
+    ShowAvailability(editor, platform, record[AvailabilityField]);
     UpdateSaveAvailability(editor);
 }
 

@@ -14,7 +14,7 @@ enum ItemText : std::size_t { NameText, WeightText, PriceText, DescriptionText }
 
 /// Copies a record into the form. A unit or Wert that is none leaves its list as it was; a line
 /// that lacks it is shown whole, and its list has no choice.
-void ShowItemInForm(ItemEditor& editor, const Platform& platform, const Folders& folders, int row);
+void ShowItemInForm(ItemEditor& editor, const Platform& platform, int row);
 
 void ClearItemForm(ItemEditor& editor);
 

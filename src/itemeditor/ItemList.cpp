@@ -52,11 +52,10 @@ void SortItemList(ItemEditor& editor, int column) {
     FillItemList(editor);
 }
 
-void ChooseItemRow(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                   int record) {
+void ChooseItemRow(ItemEditor& editor, const Platform& platform, int record) {
     editor.EditingExisting = true;
     editor.CurrentItemRow = record;
-    ShowItemInForm(editor, platform, folders, record);
+    ShowItemInForm(editor, platform, record);
     editor.lvGegenstände.toolTip = ItemName(editor.Record(record));
 }
 

@@ -30,8 +30,7 @@ void PlaceItemRow(ItemEditor& editor, int record);
 void SortItemList(ItemEditor& editor, int column);
 
 /// The user picks the row of the record: its stored values fill the form.
-void ChooseItemRow(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                   int record);
+void ChooseItemRow(ItemEditor& editor, const Platform& platform, int record);
 
 /// The place of the chosen record among the rows, -1 if none is chosen.
 int ChosenPlace(const ItemEditor& editor);

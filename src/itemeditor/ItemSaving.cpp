@@ -38,8 +38,8 @@ bool Refuse(const Platform& platform, const std::string& category, std::string_v
 
 // A missing file is made anew, but not for a category that another program has deleted: nobody
 // would find the item there. False, after a box, for such a one.
-bool IsListed(const Platform& platform, const Folders& folders, const std::string& category) {
-    const CategoryList list = ReadCategoryNames(platform.files, folders);
+bool IsListed(const Platform& platform, const std::string& category) {
+    const CategoryList list = ReadCategoryNames(platform.disk);
     return list.state != FileText::State::Whole ||
            std::find(list.names.begin(), list.names.end(), category) != list.names.end() ||
            Refuse(platform, category, Gone);
@@ -59,26 +59,25 @@ bool AskToReload(const Platform& platform, const std::string& category) {
 
 // True if the file may be written: it holds what was last read or written, or the user wants to go
 // on all the same.
-bool MayReplace(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
-                std::string_view what) {
+bool MayReplace(ItemEditor& editor, const Platform& platform, int home, std::string_view what) {
     const ViewFile file = editor.FileAt(home);
     if (!file.canBeWritten)
         return Refuse(platform, file.name, NotWhole);
-    if (!ReadyToWrite(platform, folders))
+    if (!ReadyToWrite(platform))
         return false;
-    const auto path = CategoryPath(folders, file.name);
-    const FileText present = platform.files.read(path);
+    const auto path = CategoryPath(platform.disk.folders, file.name);
+    const FileText present = platform.disk.files.read(path);
     if (present.state == FileText::State::Unreadable) {
         platform.ShowMessage(FailureText(what, {path, present.reason}));
         return false;
     }
-    if (present.state == FileText::State::Absent && !IsListed(platform, folders, file.name))
+    if (present.state == FileText::State::Absent && !IsListed(platform, file.name))
         return false;
     if (present.bytes == *file.bytes)
         return true;
     const bool reload = AskToReload(platform, file.name);
     if (reload)
-        ReloadItems(editor, platform, folders);
+        ReloadItems(editor, platform);
     return !reload;
 }
 
@@ -109,15 +108,17 @@ void TakeOver(ItemEditor& editor, int home, const RowChange& change, SharedText 
 
 // Writes the file that the row belongs to, together with `others`, and takes the change over into
 // the records. False, after a box, if nothing was written.
-bool RebuildCategoryFiles(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                          int home, const RowChange& change, std::vector<FileChange> others,
+bool RebuildCategoryFiles(ItemEditor& editor, const Platform& platform, int home,
+                          const RowChange& change, std::vector<FileChange> others,
                           std::string_view what) {
-    if (!MayReplace(editor, platform, folders, home, what))
+    if (!MayReplace(editor, platform, home, what))
         return false;
     const ViewFile& file = editor.FileAt(home);
     auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
-    others.push_back({CategoryPath(folders, file.name), *text});
-    if (ReportFailure(platform, what, WriteFiles(platform.files, folders.EmporiumFolder(), others)))
+    others.push_back({CategoryPath(platform.disk.folders, file.name), *text});
+    if (ReportFailure(
+            platform, what,
+            WriteFiles(platform.disk.files, platform.disk.folders.EmporiumFolder(), others)))
         return false;
     TakeOver(editor, home, change, std::move(text));
     return true;
@@ -135,10 +136,10 @@ void DropRow(ItemEditor& editor, int row) {
 }
 
 // Removes the current item, on disk together with `others`.
-void RemoveItemRow(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                   std::vector<FileChange> others, std::string_view what) {
+void RemoveItemRow(ItemEditor& editor, const Platform& platform, std::vector<FileChange> others,
+                   std::string_view what) {
     const int row = editor.CurrentItemRow;
-    if (!RebuildCategoryFiles(editor, platform, folders, editor.HomeOf(row), {row, nullptr},
+    if (!RebuildCategoryFiles(editor, platform, editor.HomeOf(row), {row, nullptr},
                               std::move(others), what))
         return;
     DropRow(editor, row);
@@ -148,30 +149,32 @@ void RemoveItemRow(ItemEditor& editor, const Platform& platform, const Folders& 
 
 // The file of another category with the record behind its last one. False, after a box, if that
 // file can't be read whole or is full, or if the category is gone.
-bool AppendedTo(const Platform& platform, const Folders& folders, const std::string& category,
-                const ItemRecord& record, std::vector<FileChange>& changes) {
-    if (!ReadyToWrite(platform, folders))
+bool AppendedTo(const Platform& platform, const std::string& category, const ItemRecord& record,
+                std::vector<FileChange>& changes) {
+    if (!ReadyToWrite(platform))
         return false;
-    const CategoryFile file = ReadCategoryFile(platform.files, folders, category);
+    const CategoryFile file = ReadCategoryFile(platform.disk, category);
     if (file.state == FileText::State::Unreadable) {
-        platform.ShowMessage(FailureText(NotSaved, {CategoryPath(folders, category), file.reason}));
+        platform.ShowMessage(
+            FailureText(NotSaved, {CategoryPath(platform.disk.folders, category), file.reason}));
         return false;
     }
     if (!file.CanBeWritten())
         return Refuse(platform, category, NotWhole);
-    if (file.state == FileText::State::Absent && !IsListed(platform, folders, category))
+    if (file.state == FileText::State::Absent && !IsListed(platform, category))
         return false;
     if (file.records.size() >= MaxRows)
         return Refuse(platform, category, CategoryIsFull);
-    changes.push_back({CategoryPath(folders, category), WithRecords(*file.bytes, {record})});
+    changes.push_back(
+        {CategoryPath(platform.disk.folders, category), WithRecords(*file.bytes, {record})});
     return true;
 }
 
-void MoveItem(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void MoveItem(ItemEditor& editor, const Platform& platform) {
     const ItemRecord stored = CopyOf(editor.Record(editor.CurrentItemRow));
     std::vector<FileChange> target;
-    if (AppendedTo(platform, folders, editor.cmbItemKategorien.Text(), stored, target))
-        RemoveItemRow(editor, platform, folders, std::move(target), NotSaved);
+    if (AppendedTo(platform, editor.cmbItemKategorien.Text(), stored, target))
+        RemoveItemRow(editor, platform, std::move(target), NotSaved);
 }
 
 bool CountsAsMoved(const ItemEditor& editor) {
@@ -180,21 +183,20 @@ bool CountsAsMoved(const ItemEditor& editor) {
     return view != wanted && view != AllCategories && wanted != AllCategories && !wanted.empty();
 }
 
-void SaveMoved(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void SaveMoved(ItemEditor& editor, const Platform& platform) {
     const bool yes = platform.AskYesNo(
         {std::string("Ihr habt die Kategorie des Gegenstandes geändert, soll er wirklich einer "
                      "anderen Kategorie zugeordnet werden ?"_ansi)});
     if (yes)
-        MoveItem(editor, platform, folders);
+        MoveItem(editor, platform);
     else
         EndEditing(editor);
 }
 
-void SaveChanged(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                 const ItemRecord& record) {
+void SaveChanged(ItemEditor& editor, const Platform& platform, const ItemRecord& record) {
     const int row = editor.CurrentItemRow;
     if (ViewOf(record) != editor.Record(row)) {
-        if (!RebuildCategoryFiles(editor, platform, folders, editor.HomeOf(row), {row, &record}, {},
+        if (!RebuildCategoryFiles(editor, platform, editor.HomeOf(row), {row, &record}, {},
                                   NotSaved))
             return;
         PlaceItemRow(editor, row);
@@ -202,14 +204,14 @@ void SaveChanged(ItemEditor& editor, const Platform& platform, const Folders& fo
     EndEditing(editor);
 }
 
-void SaveIntoView(ItemEditor& editor, const Platform& platform, const Folders& folders, int home,
+void SaveIntoView(ItemEditor& editor, const Platform& platform, int home,
                   const ItemRecord& record) {
     const int row = editor.ItemCount();
     if (row == MaxRows) {
         platform.ShowMessage("Die Ansicht ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi);
         return;
     }
-    if (!RebuildCategoryFiles(editor, platform, folders, home, {row, &record}, {}, NotSaved))
+    if (!RebuildCategoryFiles(editor, platform, home, {row, &record}, {}, NotSaved))
         return;
     AddItemRow(editor, row);
     editor.CurrentItemRow = std::max(editor.CurrentItemRow, 0);
@@ -218,27 +220,26 @@ void SaveIntoView(ItemEditor& editor, const Platform& platform, const Folders& f
 }
 
 // The view does not know the category of the form: that becomes the view.
-void SaveOutsideView(ItemEditor& editor, const Platform& platform, const Folders& folders,
-                     const ItemRecord& record) {
+void SaveOutsideView(ItemEditor& editor, const Platform& platform, const ItemRecord& record) {
     const std::string category = editor.cmbItemKategorien.Text();
     std::vector<FileChange> changes;
-    if (!AppendedTo(platform, folders, category, record, changes) ||
-        ReportFailure(platform, NotSaved,
-                      WriteFiles(platform.files, folders.EmporiumFolder(), changes)))
+    if (!AppendedTo(platform, category, record, changes) ||
+        ReportFailure(
+            platform, NotSaved,
+            WriteFiles(platform.disk.files, platform.disk.folders.EmporiumFolder(), changes)))
         return;
-    ChooseCategory(editor, platform, folders, editor.cmbItemKategorien.Selection());
+    ChooseCategory(editor, platform, editor.cmbItemKategorien.Selection());
 }
 
-void SaveNew(ItemEditor& editor, const Platform& platform, const Folders& folders,
-             const ItemRecord& record) {
+void SaveNew(ItemEditor& editor, const Platform& platform, const ItemRecord& record) {
     const std::string view = editor.cmbKategorien.Text();
     const std::string wanted = editor.cmbItemKategorien.Text();
     const bool ownHome = !view.empty() && view != AllCategories;
     const int home = ViewFileOf(editor, ownHome ? view : wanted);
     if (home >= 0)
-        SaveIntoView(editor, platform, folders, home, record);
+        SaveIntoView(editor, platform, home, record);
     else if (!wanted.empty() && wanted != AllCategories)
-        SaveOutsideView(editor, platform, folders, record);
+        SaveOutsideView(editor, platform, record);
     else
         platform.ShowMessage("Bitte wählt im Feld Kategorie aus, wohin der neue Gegenstand "
                              "gehört."_ansi);
@@ -246,25 +247,25 @@ void SaveNew(ItemEditor& editor, const Platform& platform, const Folders& folder
 
 } // namespace
 
-void SaveItem(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void SaveItem(ItemEditor& editor, const Platform& platform) {
     if (editor.cmbItemPreis.Selection() < 0) {
         platform.ShowMessage("Bitte wählt zum Preis auch eine Währung aus."_ansi);
         return;
     }
     if (!editor.EditingExisting)
-        SaveNew(editor, platform, folders, RecordOfForm(editor));
+        SaveNew(editor, platform, RecordOfForm(editor));
     else if (CountsAsMoved(editor))
-        SaveMoved(editor, platform, folders);
+        SaveMoved(editor, platform);
     else
-        SaveChanged(editor, platform, folders, RecordOfForm(editor));
+        SaveChanged(editor, platform, RecordOfForm(editor));
 }
 
-void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform, const Folders& folders) {
+void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform) {
     if (editor.CurrentItemRow < 0)
         return;
     if (platform.AskYesNo(
             {std::string("Wollt ihr den gewählten Gegenstand wirklich löschen ?"_ansi)}))
-        RemoveItemRow(editor, platform, folders, {}, NotDeleted);
+        RemoveItemRow(editor, platform, {}, NotDeleted);
 }
 
 } // namespace emporium

@@ -11,9 +11,9 @@ namespace emporium {
 
 /// Saves the form: a new item, or the one that is being edited. Refused with a box if no unit is
 /// chosen, or if a new item has no category to go to.
-void SaveItem(ItemEditor& editor, const Platform& platform, const Folders& folders);
+void SaveItem(ItemEditor& editor, const Platform& platform);
 
 /// Deletes the chosen item, after a question. Nothing happens if none is chosen.
-void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform, const Folders& folders);
+void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform);
 
 } // namespace emporium

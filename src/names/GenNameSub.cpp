@@ -46,12 +46,11 @@ std::string Surname(NameLists& lists, std::string_view race, bool male) {
 
 } // namespace
 
-NameLists::NameLists(const FileLayer& files, const Folders& folders, const Die& die)
-    : files_(files), folders_(folders), die_(die) {}
+NameLists::NameLists(const Disk& disk, const Die& die) : disk_(disk), die_(die) {}
 
 std::string NameLists::DrawName(std::string_view list) {
-    const auto file = folders_.DataFolder / "Borough" / ToPath(list);
-    const FileText text = files_.read(file);
+    const auto file = disk_.folders.DataFolder / "Borough" / ToPath(list);
+    const FileText text = disk_.files.read(file);
     std::vector<std::string_view> names;
     LineReader lines(text.bytes);
     for (std::string_view line; lines.Next(line);)

@@ -1,8 +1,8 @@
 // Owner names by the naming custom of a race, drawn from the word lists below "Borough".
 #pragma once
 
+#include "base/Disk.h"
 #include "base/Subs.h"
-#include "base/Variablen.h"
 #include "files/FileFailure.h"
 #include "files/FileLayer.h"
 
@@ -15,9 +15,10 @@ namespace emporium {
 /// Draws names by dice; keeps nothing but the first list that gave none.
 class NameLists {
 public:
-    NameLists(const FileLayer& files, const Folders& folders, const Die& die);
+    NameLists(const Disk& disk, const Die& die);
 
-    /// One line of the list, each equally likely; empty if the list can't be read or has no line.
+    /// One line of the list, each equally likely; empty if the list can't be read or has no
+    /// line.
     std::string DrawName(std::string_view list);
 
     /// A throw of the dice with n sides.
@@ -27,16 +28,15 @@ public:
     const std::optional<FileFailure>& Failure() const { return failure_; }
 
 private:
-    const FileLayer& files_;
-    const Folders& folders_;
+    const Disk& disk_;
     const Die& die_;
     std::optional<FileFailure> failure_;
 };
 
-/// A name of the race. `sex` is "Männlich" or "Weiblich"; empty or "Zufall" has it drawn, and the
-/// drawn word is left there ("Mohas" has no need of it and leaves it alone). A race beyond the
-/// known ones takes its names from the lists that bear its name. The lists' Failure tells whether
-/// the name is whole.
+/// A name of the race. `sex` is "Männlich" or "Weiblich"; empty or "Zufall" has it drawn, and
+/// the drawn word is left there ("Mohas" has no need of it and leaves it alone). A race beyond
+/// the known ones takes its names from the lists that bear its name. The lists' Failure tells
+/// whether the name is whole.
 std::string GenName(NameLists& lists, std::string_view race, std::string& sex);
 
 } // namespace emporium

@@ -11,30 +11,30 @@ namespace {
 
 struct Neighbours {
     std::string_view region;
-    std::array<std::string_view, 8> others; // unused places stay empty
+    std::string_view others; // with a blank between them
 };
 
 constexpr std::array<Neighbours, RegionCount> NeighbourTable = {{
-    {"NO", {"TH", "BO", "FI", "EL", "OR", "WE"}},
-    {"TH", {"NO", "OR", "HA"}},
-    {"BO", {"NO", "WE", "TO"}},
-    {"FI", {"NO"}},
-    {"EL", {"NO", "WE"}},
-    {"OR", {"NO", "TH", "WE", "HA"}},
-    {"WE", {"NO", "BO", "EL", "OR", "TO", "HA", "GA", "ZW"}},
-    {"TO", {"BO", "WE", "HA"}},
-    {"HA", {"TH", "OR", "WE", "ZW", "LF"}},
-    {"GA", {"WE", "TO", "ZW", "PU", "MH"}},
-    {"ZW", {"WE", "HA", "GA", "PU", "LF"}},
-    {"PU", {"GA", "ZW", "LF", "KH", "MH"}},
-    {"LF", {"HA", "ZW", "PU", "ZY", "KH", "SÜ"_ansi}},
-    {"ZY", {"LF", "SÜ"_ansi}},
-    {"KH", {"PU", "LF", "MH", "SÜ"_ansi}},
-    {"MH", {"GA", "PU", "KH", "MA"}},
-    {"MA", {"MH"}},
-    {"SÜ"_ansi, {"LF", "ZY", "KH", "MO", "WA"}},
-    {"MO", {"SÜ"_ansi}},
-    {"WA", {"SÜ"_ansi}},
+    {"NO", "TH BO FI EL OR WE"},
+    {"TH", "NO OR HA"},
+    {"BO", "NO WE TO"},
+    {"FI", "NO"},
+    {"EL", "NO WE"},
+    {"OR", "NO TH WE HA"},
+    {"WE", "NO BO EL OR TO HA GA ZW"},
+    {"TO", "BO WE HA"},
+    {"HA", "TH OR WE ZW LF"},
+    {"GA", "WE TO ZW PU MH"},
+    {"ZW", "WE HA GA PU LF"},
+    {"PU", "GA ZW LF KH MH"},
+    {"LF", "HA ZW PU ZY KH SÜ"_ansi},
+    {"ZY", "LF SÜ"_ansi},
+    {"KH", "PU LF MH SÜ"_ansi},
+    {"MH", "GA PU KH MA"},
+    {"MA", "MH"},
+    {"SÜ"_ansi, "LF ZY KH MO WA"},
+    {"MO", "SÜ"_ansi},
+    {"WA", "SÜ"_ansi},
 }};
 
 constexpr std::int16_t FarDistance = 2;
@@ -55,36 +55,39 @@ constexpr auto PackedCodes = [] {
 }();
 
 // The index in table order, 0 for an unknown code.
-std::size_t IndexOf(std::string_view code) {
+constexpr std::size_t IndexOf(std::string_view code) {
     const auto found = std::find(PackedCodes.begin(), PackedCodes.end(), Packed(code));
     return found == PackedCodes.end() ? 0 : static_cast<std::size_t>(found - PackedCodes.begin());
 }
 
-} // namespace
+// Both indexes 1 to 20 in table order.
+using Distances = std::array<std::array<std::int16_t, RegionCount + 1>, RegionCount + 1>;
 
-RegionTable RegionInit() {
-    RegionTable table;
-    for (auto& row : table.RegionDistances)
+constexpr Distances RegionInit() {
+    Distances distances{};
+    for (auto& row : distances)
         row.fill(FarDistance);
-    for (const auto& [region, others] : NeighbourTable)
-        for (const std::string_view other : others)
-            if (!other.empty())
-                table.RegionDistances[IndexOf(region)][IndexOf(other)] = NearDistance;
-    return table;
+    for (const Neighbours& entry : NeighbourTable)
+        for (std::size_t i = 0; i < entry.others.size(); i += 3)
+            distances[IndexOf(entry.region)][IndexOf(entry.others.substr(i, 2))] = NearDistance;
+    return distances;
 }
 
-std::optional<std::int16_t> RegionDistance(const RegionTable& table, std::string_view first,
-                                           std::string_view second) {
+constexpr Distances RegionDistances = RegionInit();
+
+} // namespace
+
+std::optional<std::int16_t> RegionDistance(std::string_view first, std::string_view second) {
     const std::size_t i = IndexOf(first);
     const std::size_t j = IndexOf(second);
     if (i == 0 || j == 0)
         return std::nullopt;
-    return table.RegionDistances[i][j];
+    return RegionDistances[i][j];
 }
 
-std::string RegionDescription(const FileLayer& files, const Folders& folders,
-                              std::string_view code) {
-    return ReadIniValue(files, folders.DataFolder / "Atlas" / "Regionen.dat", code, "Desc");
+std::string RegionDescription(const Disk& disk, std::string_view code) {
+    return ReadIniValue(disk.files, disk.folders.DataFolder / "Atlas" / "Regionen.dat", code,
+                        "Desc");
 }
 
 std::vector<std::string_view> AlphabeticalRegionCodes() {

@@ -1,7 +1,7 @@
 // The twenty regions of the game world: their codes, how far they lie apart, and their long names.
 #pragma once
 
-#include "base/Variablen.h"
+#include "base/Disk.h"
 #include "files/FileLayer.h"
 #include "text/Ansi.h"
 
@@ -21,22 +21,12 @@ inline constexpr std::array<std::string_view, RegionCount + 1> RegionCodes = {
     "",   "NO", "TH", "BO", "FI", "EL", "OR", "WE",      "TO", "HA", "GA",
     "ZW", "PU", "LF", "ZY", "KH", "MH", "MA", "SÜ"_ansi, "MO", "WA"};
 
-/// Distances between regions, both indexes 1 to 20 in table order. Not symmetric.
-struct RegionTable {
-    std::array<std::array<std::int16_t, RegionCount + 1>, RegionCount + 1> RegionDistances{};
-};
-
-/// The table as the world has it: neighbours at distance 1, everything else at 2.
-RegionTable RegionInit();
-
-/// The distance from one region to another, nothing if either code is unknown. Codes are compared
-/// exactly.
-std::optional<std::int16_t> RegionDistance(const RegionTable& table, std::string_view first,
-                                           std::string_view second);
+/// The distance from one region to another: 1 between neighbours, else 2, not in every case the
+/// same both ways. Nothing if either code is unknown. Codes are compared exactly.
+std::optional<std::int16_t> RegionDistance(std::string_view first, std::string_view second);
 
 /// The long name of a region, empty if the region file does not tell it.
-std::string RegionDescription(const FileLayer& files, const Folders& folders,
-                              std::string_view code);
+std::string RegionDescription(const Disk& disk, std::string_view code);
 
 /// The codes in alphabetical order, as the lists offer them.
 std::vector<std::string_view> AlphabeticalRegionCodes();

@@ -51,11 +51,9 @@ void ApplyPriceLevel(ShopEditor& shop) {
     ++shop.lvLaden.revision;
 }
 
-void ChooseShopRegion(ShopEditor& shop, const Platform& platform, const Folders& folders,
-                      int index) {
+void ChooseShopRegion(ShopEditor& shop, const Platform& platform, int index) {
     shop.cmbShopRegion.Select(index);
-    shop.cmbShopRegion.toolTip =
-        RegionDescription(platform.files, folders, shop.cmbShopRegion.Text());
+    shop.cmbShopRegion.toolTip = RegionDescription(platform.disk, shop.cmbShopRegion.Text());
 }
 
 void ChooseRace(ShopEditor& shop, int index) {
@@ -63,8 +61,8 @@ void ChooseRace(ShopEditor& shop, int index) {
     shop.cmdGenName.enabled = !shop.cmbRasse.Text().empty();
 }
 
-void DrawOwnerName(ShopEditor& shop, const Platform& platform, const Folders& folders) {
-    NameLists lists(platform.files, folders, platform.RollDice);
+void DrawOwnerName(ShopEditor& shop, const Platform& platform) {
+    NameLists lists(platform.disk, platform.RollDice);
     std::string sex;
     std::string name = GenName(lists, shop.cmbRasse.Text(), sex);
     if (lists.Failure())

@@ -25,13 +25,12 @@ void ChoosePriceLevel(ShopEditor& shop, int index);
 void ApplyPriceLevel(ShopEditor& shop);
 
 /// A choice in cmbShopRegion: the list's tool tip tells the region's long name.
-void ChooseShopRegion(ShopEditor& shop, const Platform& platform, const Folders& folders,
-                      int index);
+void ChooseShopRegion(ShopEditor& shop, const Platform& platform, int index);
 
 /// A choice in cmbRasse: with a race a name can be drawn.
 void ChooseRace(ShopEditor& shop, int index);
 
 /// cmdGenName: draws the owner's name. If a list gives none, a box says so and the name stays.
-void DrawOwnerName(ShopEditor& shop, const Platform& platform, const Folders& folders);
+void DrawOwnerName(ShopEditor& shop, const Platform& platform);
 
 } // namespace emporium

@@ -84,15 +84,16 @@ void FitInto(const CategoryFile& category, std::string_view name, std::vector<It
     faults.push_back(std::string(name).append(".dat: ").append(CategoryIsFull));
 }
 
-void ImportCategory(const FileLayer& files, const Folders& folders, std::string_view name,
-                    const SourceForm& form, std::vector<std::string>& faults) {
-    const auto sourceFile = folders.DataFolder / "Arsenal" / CategoryPath(folders, name).filename();
-    const FileText source = files.read(sourceFile);
+void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& form,
+                    std::vector<std::string>& faults) {
+    const auto sourceFile =
+        disk.folders.DataFolder / "Arsenal" / CategoryPath(disk.folders, name).filename();
+    const FileText source = disk.files.read(sourceFile);
     if (source.state == FileText::State::Unreadable)
         faults.push_back("Arsenal, " + FaultLine({sourceFile, source.reason}));
     if (!source.IsWhole())
         return;
-    const CategoryFile category = ReadCategoryFile(files, folders, name);
+    const CategoryFile category = ReadCategoryFile(disk, name);
     if (!category.CanBeWritten()) {
         const auto found = CategoryFaults(name, category);
         faults.insert(faults.end(), found.begin(), found.end());
@@ -102,17 +103,16 @@ void ImportCategory(const FileLayer& files, const Folders& folders, std::string_
     FitInto(category, name, added, faults);
     if (added.empty())
         return;
-    const auto file = CategoryPath(folders, name);
-    if (const auto failure = WriteFile(files, file, WithRecords(*category.bytes, added)))
+    const auto file = CategoryPath(disk.folders, name);
+    if (const auto failure = WriteFile(disk.files, file, WithRecords(*category.bytes, added)))
         faults.push_back(FaultLine(*failure));
 }
 
-void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_view name,
-                   std::vector<std::string>& faults) {
-    const auto older = CategoryPath(folders, std::string("Emporium").append(name));
+void RenameOldFile(const Disk& disk, std::string_view name, std::vector<std::string>& faults) {
+    const auto older = CategoryPath(disk.folders, std::string("Emporium").append(name));
     if (!FileExists(older))
         return;
-    const FileText text = files.read(older);
+    const FileText text = disk.files.read(older);
     if (text.state == FileText::State::Absent)
         return;
     if (!text.IsWhole()) {
@@ -120,24 +120,22 @@ void RenameOldFile(const FileLayer& files, const Folders& folders, std::string_v
         return;
     }
     const auto failure =
-        WriteFiles(files, folders.EmporiumFolder(),
-                   {{CategoryPath(folders, name), text.bytes}, {older, std::nullopt}});
+        WriteFiles(disk.files, disk.folders.EmporiumFolder(),
+                   {{CategoryPath(disk.folders, name), text.bytes}, {older, std::nullopt}});
     if (failure)
         faults.push_back(FaultLine(*failure));
 }
 
 } // namespace
 
-void RenameOldCategoryFiles(const FileLayer& files, const Folders& folders,
-                            std::vector<std::string>& faults) {
+void RenameOldCategoryFiles(const Disk& disk, std::vector<std::string>& faults) {
     for (const std::string_view name : FixedCategories())
-        RenameOldFile(files, folders, name, faults);
+        RenameOldFile(disk, name, faults);
 }
 
-void ImportArsenal(const FileLayer& files, const Folders& folders,
-                   std::vector<std::string>& faults) {
+void ImportArsenal(const Disk& disk, std::vector<std::string>& faults) {
     for (std::size_t i = 0; i < SourceForms.size(); ++i)
-        ImportCategory(files, folders, FixedCategories()[i], SourceForms[i], faults);
+        ImportCategory(disk, FixedCategories()[i], SourceForms[i], faults);
 }
 
 } // namespace emporium

@@ -135,8 +135,8 @@ bool IsOwnFile(std::string_view name) {
     return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
 }
 
-CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders) {
-    FileText text = files.read(CategoryListPath(folders));
+CategoryList ReadCategoryNames(const Disk& disk) {
+    FileText text = disk.files.read(CategoryListPath(disk.folders));
     CategoryList list{text.state, ReasonOf(text), std::move(text.bytes), {}};
     list.names = NamesIn(list.bytes, MaxRows);
     return list;
@@ -194,12 +194,11 @@ bool RecordReader::Next(RecordView& record) {
     return true;
 }
 
-CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
-                              std::string_view name) {
+CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name) {
     FileText text{
         FileText::State::Unreadable, {}, std::make_error_code(std::errc::invalid_argument)};
     if (IsPlainName(name) && !IsOwnFile(name))
-        text = files.read(CategoryPath(folders, name));
+        text = disk.files.read(CategoryPath(disk.folders, name));
     CategoryFile file{
         text.state, text.reason, std::make_shared<const std::string>(std::move(text.bytes)), {}};
     RecordReader reader(*file.bytes);

@@ -2,7 +2,7 @@
 // category. Reading tells what it came to; writing is FileWriting's.
 #pragma once
 
-#include "base/Variablen.h"
+#include "base/Disk.h"
 #include "files/FileLayer.h"
 #include "text/Ansi.h"
 #include "text/LineReader.h"
@@ -81,8 +81,8 @@ std::filesystem::path CategoryPath(const Folders& folders, std::string_view name
 /// True if name + ".dat" leads to a file directly in its folder, on Linux and on Windows.
 bool IsPlainName(std::string_view name);
 
-/// True if name + ".dat" is a file of the folder that is no category, or that is renamed to one at
-/// the next start.
+/// True if name + ".dat" is a file of the folder that is no category, or that is renamed to one
+/// at the next start.
 bool IsOwnFile(std::string_view name);
 
 struct CategoryList {
@@ -93,7 +93,7 @@ struct CategoryList {
 };
 
 /// The names of the list, at most MaxRows. A first line that is no number counts as a name.
-CategoryList ReadCategoryNames(const FileLayer& files, const Folders& folders);
+CategoryList ReadCategoryNames(const Disk& disk);
 
 /// Why the list must not be changed, one line for the user: it could not be read, or has not as
 /// many names as its first line says and may be damaged. Empty if all is well.
@@ -120,18 +120,17 @@ struct CategoryFile {
 
 /// A category's records. A name that is no plain one, or that of a file of another kind, is
 /// unreadable.
-CategoryFile ReadCategoryFile(const FileLayer& files, const Folders& folders,
-                              std::string_view name);
+CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name);
 
-/// The bytes of a category file with further records behind those that it has, with another record
-/// in the place of one, or with one taken out. `place` is a record within these bytes. All other
-/// bytes stay as they are, and new lines end as the file's lines do.
+/// The bytes of a category file with further records behind those that it has, with another
+/// record in the place of one, or with one taken out. `place` is a record within these bytes.
+/// All other bytes stay as they are, and new lines end as the file's lines do.
 std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& records);
 std::string WithRecordAt(std::string_view bytes, const RecordView& place, const ItemRecord& record);
 std::string WithoutRecordAt(std::string_view bytes, const RecordView& place);
 
-/// What the user should know of the file, one line for each fault: missing, unreadable, cut off,
-/// records whose name or price line lacks its mark. Empty if all is well.
+/// What the user should know of the file, one line for each fault: missing, unreadable, cut
+/// off, records whose name or price line lacks its mark. Empty if all is well.
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file);
 
 } // namespace emporium

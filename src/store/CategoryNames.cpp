@@ -18,13 +18,13 @@ bool HasGoodForm(std::string_view name) {
 }
 
 // A file whose name differs at most in case; on Windows that is the same file.
-bool FileStands(const Folders& folders, std::string_view name) {
-    const std::filesystem::path file = CategoryPath(folders, name);
+bool FileStands(const Disk& disk, std::string_view name) {
+    const std::filesystem::path file = CategoryPath(disk.folders, name);
     std::error_code unknown;
     if (std::filesystem::exists(StatusOf(file, unknown)))
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
-    const auto entries = EntriesOf(folders.EmporiumFolder());
+    const auto entries = EntriesOf(disk.folders.EmporiumFolder());
     return std::any_of(entries.begin(), entries.end(), [&wanted](const auto& entry) {
         return FoldCase(FromPath(entry.filename())) == wanted;
     });
@@ -32,7 +32,7 @@ bool FileStands(const Folders& folders, std::string_view name) {
 
 } // namespace
 
-std::string CategoryNameRefusal(const Folders& folders, const std::vector<std::string>& listed,
+std::string CategoryNameRefusal(const Disk& disk, const std::vector<std::string>& listed,
                                 std::string_view name) {
     if (name == AllCategories || std::find(listed.begin(), listed.end(), name) != listed.end())
         return std::string(
@@ -51,7 +51,7 @@ std::string CategoryNameRefusal(const Folders& folders, const std::vector<std::s
         return std::string("Eine Kategorie, deren Name sich nur in Groß- und Kleinschreibung "
                            "unterscheidet, existiert bereits, ihr müsst einen anderen Namen "
                            "wählen."_ansi);
-    if (IsOwnFile(name) || FileStands(folders, name))
+    if (IsOwnFile(name) || FileStands(disk, name))
         return std::string("Im Ordner der Kategorien gehört dieser Name schon einer anderen "
                            "Datei, ihr müsst einen anderen wählen."_ansi);
     return {};

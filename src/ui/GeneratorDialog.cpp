@@ -36,10 +36,7 @@ GeneratorDialog::GeneratorDialog(QWidget* window, Session& session)
     start->setDefault(true);
     session_.mirror.Bind(start, dialog.cmdStart);
     connect(start, &QPushButton::clicked, this, [&] {
-        session_.Do([&] {
-            GenerateShop(dialog, session_.state.shop, session_.state.regions, session_.platform,
-                         session_.state.folders);
-        });
+        session_.Do([&] { GenerateShop(dialog, session_.state.shop, session_.platform); });
     });
     session_.mirror.Bind([this, &dialog] {
         if (!dialog.open && isVisible())
@@ -63,9 +60,7 @@ void GeneratorDialog::BuildRegion() {
     connect(counts, &QCheckBox::clicked, this,
             [this, &dialog](bool ticked) { session_.Do([&] { TickShopRegion(dialog, ticked); }); });
     Place(BuildChoice(session_, frame, "cmbShopRegion", "Region", dialog.cmbShopRegion,
-                      [&](int index) {
-                          ChooseGeneratorRegion(dialog, session_.platform, state.folders, index);
-                      }),
+                      [&](int index) { ChooseGeneratorRegion(dialog, session_.platform, index); }),
           120, 600, 3735, 315);
     Place(BuildRegionName(session_, frame, dialog.lblRegionen), 120, 960, 3735, 495);
 }

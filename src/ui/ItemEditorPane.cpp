@@ -59,23 +59,22 @@ void ItemEditorPane::BuildList(QWidget* window) {
     });
     connect(list_, &ListTable::rowChosen, this, [&](int row) {
         session_.Do([&] {
-            ChooseItemRow(items, session_.platform, state.folders,
+            ChooseItemRow(items, session_.platform,
                           items.lvGegenstände.rows[static_cast<std::size_t>(row)]);
         });
     });
     connect(list_, &ListTable::headerClicked, this,
             [&](int column) { session_.Do([&] { SortItemList(items, column); }); });
-    connect(list_, &ListTable::deletePressed, this, [&] {
-        session_.Do([&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
-    });
+    connect(list_, &ListTable::deletePressed, this,
+            [&] { session_.Do([&] { ConfirmDeleteItem(items, session_.platform); }); });
 
     itemNew_ = BuildButton(session_, frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen",
                            "+", [&] { StartNewItem(items, session_.platform); });
     itemDelete_ =
         BuildButton(session_, frame, "cmdItemDelete", 480, 5400, "Gewählten Gegenstand löschen",
-                    "–", [&] { ConfirmDeleteItem(items, session_.platform, state.folders); });
+                    "–", [&] { ConfirmDeleteItem(items, session_.platform); });
     itemSave_ = BuildButton(session_, frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓",
-                            [&] { SaveItem(items, session_.platform, state.folders); });
+                            [&] { SaveItem(items, session_.platform); });
     session_.mirror.Bind(itemNew_, items.cmdItemNeu);
     session_.mirror.Bind(itemDelete_, items.cmdItemDelete);
     session_.mirror.Bind(itemSave_, items.cmdItemSave);
@@ -93,22 +92,20 @@ void ItemEditorPane::BuildCategories(QWidget* parent) {
     auto& items = state.items;
     auto* frame =
         Place(Named(new CaptionFrame(parent, Black, "Kategorien"), "Frame5"), 120, 360, 2895, 1095);
-    const auto choose = [&](int index) {
-        ChooseCategory(items, session_.platform, state.folders, index);
-    };
+    const auto choose = [&](int index) { ChooseCategory(items, session_.platform, index); };
     Place(BuildChoice(session_, frame, "cmbKategorien", "Kategorie der Liste", items.cmbKategorien,
                       choose),
           120, 240, 2655, 315);
 
     categoryNew_ =
         BuildButton(session_, frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
-                    [&] { NewCategory(items, session_.platform, state.folders); });
+                    [&] { NewCategory(items, session_.platform); });
     categoryDelete_ =
         BuildButton(session_, frame, "cmdKategorieDelete", 480, 600, "Gewählte Kategorie löschen",
-                    "–", [&] { DeleteCategory(items, session_.platform, state.folders); });
+                    "–", [&] { DeleteCategory(items, session_.platform); });
     print_ = BuildButton(
         session_, frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤", [&] {
-            PrintTempDocument(state.print, session_.platform, state.folders,
+            PrintTempDocument(state.print, session_.platform,
                               [&items](std::string& file) { WriteItemList(items, file); });
         });
     session_.mirror.Bind(categoryNew_, items.cmdKategorieNeu);
@@ -194,9 +191,8 @@ void ItemEditorPane::BuildAvailability() {
     auto* chosen = list("Frame4", "Wird hergestellt in", 3660, "lstVerfügbar", 5220);
     session_.mirror.Bind(others, items.lstRegionen);
     session_.mirror.Bind(chosen, items.lstVerfügbar);
-    connect(others, &QListWidget::currentRowChanged, this, [&](int row) {
-        session_.Do([&] { SelectRegion(items, session_.platform, state.folders, row); });
-    });
+    connect(others, &QListWidget::currentRowChanged, this,
+            [&](int row) { session_.Do([&] { SelectRegion(items, session_.platform, row); }); });
     connect(chosen, &QListWidget::currentRowChanged, this,
             [&](int row) { session_.Do([&] { items.lstVerfügbar.Select(row); }); });
 
@@ -214,7 +210,7 @@ void ItemEditorPane::BuildAvailability() {
     move("cmdHin", ">", "Region hinzufügen", 1350, [&] { MoveRegionIn(items); });
     move("cmdZurück", "<", "Region wegnehmen", 1800, [&] { MoveRegionOut(items); });
     move("cmdAlleHin", ">>>>>", "Alle Regionen hinzufügen", 2700,
-         [&] { MoveAllRegionsIn(items, session_.platform, state.folders); });
+         [&] { MoveAllRegionsIn(items, session_.platform); });
     move("cmdAlleZurück", "<<<<<", "Alle Regionen wegnehmen", 3150,
          [&] { ReturnAllRegions(items); });
 }
@@ -237,7 +233,7 @@ void ItemEditorPane::BuildNotice() {
 }
 
 void ItemEditorPane::LoadPictures() {
-    const auto& gfx = session_.state.folders.GfxFolder;
+    const auto& gfx = session_.platform.disk.folders.GfxFolder;
     categoryNew_->SetPicture(LoadPicture(gfx / "new.bmp"));
     categoryDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
     itemNew_->SetPicture(LoadPicture(gfx / "new.bmp"));

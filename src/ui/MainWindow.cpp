@@ -41,6 +41,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
 
     auto& platform = session_.platform;
     platform = QtPlatform(*this, session_.mirror);
+    platform.disk = {SystemFiles(), InitFolders(programFolder)};
     platform.RollDice = [this](std::int32_t n) { return dice_.RollDice(n); };
     platform.ProcessEvents = [this] {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
@@ -62,7 +63,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     connect(browser_, &HtmlView::navigateComplete, this,
             [this] { session_.state.print.PreviewReady = true; });
     session_.mirror.Bind([this] { MirrorWindow(); });
-    session_.Do([&] { started_ = StartUp(session_.state, session_.platform, programFolder); });
+    session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
     LoadPictures();
 }
 
@@ -80,11 +81,11 @@ void MainWindow::BuildModes() {
     shopMode_ = BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S",
                             [&state] { ShowShopEditor(state); });
     help_ = BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?",
-                        [this, &state] { OpenHelp(state, session_.platform); });
+                        [this] { OpenHelp(session_.platform); });
 }
 
 void MainWindow::LoadPictures() {
-    const auto& gfx = session_.state.folders.GfxFolder;
+    const auto& gfx = session_.platform.disk.folders.GfxFolder;
     itemMode_->SetPicture(LoadPicture(gfx / "OrvanEmporium3Klein.bmp"));
     shopMode_->SetPicture(LoadPicture(gfx / "shop.bmp"));
     help_->SetPicture(LoadPicture(gfx / "helpklein.bmp"));
@@ -98,7 +99,7 @@ const QImage& MainWindow::BackgroundOf(Mode mode) const {
     auto* picture = items ? itemBackground_ : shopBackground_;
     const char* file = items ? "OrvanEmporium3ItemEditor.jpg" : "OrvanEmporium3ShopEditor.jpg";
     if (picture->Image().isNull())
-        picture->SetImage(LoadPictureFor(session_.state.folders.GfxFolder / file, size()));
+        picture->SetImage(LoadPictureFor(session_.platform.disk.folders.GfxFolder / file, size()));
     return picture->Image();
 }
 

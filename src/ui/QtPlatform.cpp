@@ -80,7 +80,6 @@ void SetWaitPointer(bool waiting) {
 
 Platform QtPlatform(QWidget& window, const Mirror& mirror) {
     Platform platform;
-    platform.files = SystemFiles();
     platform.AskYesNo = [&](const YesNoBox& box) {
         mirror.Update();
         return AskYesNo(window, box);

@@ -9,7 +9,7 @@
 
 namespace emporium::ui {
 
-/// The services that need nothing of the window but its being there: files, boxes, save dialog,
+/// The services that need nothing of the window but its being there: boxes, save dialog,
 /// viewer, wait pointer. Before a box opens, the windows show what has come about so far.
 Platform QtPlatform(QWidget& window, const Mirror& mirror);
 

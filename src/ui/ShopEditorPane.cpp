@@ -29,7 +29,7 @@ ShopEditorPane::ShopEditorPane(QWidget* window, Session& session)
 
     BuildField(BuildFrame(4, "Region", FieldLeft, 3600, FieldWidth, 855), "cmbShopRegion", 330,
                shop.cmbShopRegion,
-               [&](int index) { ChooseShopRegion(shop, session_.platform, state.folders, index); });
+               [&](int index) { ChooseShopRegion(shop, session_.platform, index); });
     BuildField(BuildFrame(5, "Preise", FieldLeft, 4800, FieldWidth, 615), "cmbShopPreise", 240,
                shop.cmbShopPreise, [&](int index) { ChoosePriceLevel(shop, index); });
     BuildField(BuildFrame(6, "Qualität", FieldLeft, 5760, FieldWidth, 615), "cmbShopQualität", 240,
@@ -88,13 +88,12 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
     remove_ = build("cmdShopDelete", "Gewählten Gegenstand löschen", "–", 480,
                     [&] { RemoveShopRow(shop); });
     print_ = build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
-        PrintTempDocument(state.print, platform, state.folders,
+        PrintTempDocument(state.print, platform,
                           [&shop](std::string& file) { WriteShopPrint(shop, file); });
     });
-    export_ = build("cmdShopExport", "HTML-Export", "H", 2280,
-                    [&] { ExportShop(shop, platform, state.folders); });
+    export_ = build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
     generator_ = build("cmdShopGenerator", "Shopgenerator", "W", 2640,
-                       [&] { OpenGenerator(state.generator, shop, platform, state.folders); });
+                       [&] { OpenGenerator(state.generator, shop, platform); });
     session_.mirror.Bind(quantity_, shop.cmdShopAnzahl);
     session_.mirror.Bind(remove_, shop.cmdShopDelete);
 }
@@ -110,7 +109,7 @@ void ShopEditorPane::BuildOwner() {
     draw->setAccessibleName(draw->toolTip());
     session_.mirror.Bind(draw, shop.cmdGenName);
     connect(draw, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { DrawOwnerName(shop, session_.platform, state.folders); }); });
+            [&] { session_.Do([&] { DrawOwnerName(shop, session_.platform); }); });
     BuildField(frame, "cmbRasse", 660, shop.cmbRasse, [&](int index) { ChooseRace(shop, index); });
 }
 
@@ -131,7 +130,7 @@ void ShopEditorPane::BuildField(CaptionFrame* frame, const char* name, int top,
 }
 
 void ShopEditorPane::LoadPictures() {
-    const auto& gfx = session_.state.folders.GfxFolder;
+    const auto& gfx = session_.platform.disk.folders.GfxFolder;
     print_->SetPicture(LoadPicture(gfx / "print.bmp"));
     export_->SetPicture(LoadPicture(gfx / "html.bmp"));
     generator_->SetPicture(LoadPicture(gfx / "shop.bmp"));

@@ -112,14 +112,13 @@ TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
 
 TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     const ProgramFolder program;
-    ScriptedPlatform script;
+    ScriptedPlatform script{program.folders};
     PrintHost host;
     int rounds = 0;
     std::string log;
     const auto print = [&](std::string_view document) {
         log.clear();
-        PrintTempDocument(host, script.platform, program.folders,
-                          [&](std::string& file) { file = document; });
+        PrintTempDocument(host, script.platform, [&](std::string& file) { file = document; });
         EXPECT_FALSE(host.busy || host.PreviewReady);
         return log;
     };
@@ -130,7 +129,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     };
     script.platform.Browser.Print = [&] { return log += "print ", true; };
     script.platform.ProcessEvents = [&] {
-        PrintTempDocument(host, script.platform, program.folders,
+        PrintTempDocument(host, script.platform,
                           [](std::string&) { ADD_FAILURE() << "a second print during the wait"; });
         host.PreviewReady = ++rounds == 3;
         return true;

@@ -28,8 +28,7 @@ int PlaceOf(const ChoiceList& list, std::string_view entry) {
 class FileWork {
 public:
     explicit FileWork(const std::filesystem::path& folder) {
-        window.folders = InitFolders(folder);
-        platform.files = SystemFiles();
+        platform.disk = {SystemFiles(), InitFolders(folder)};
         platform.AskYesNo = [](const YesNoBox&) { return true; };
         platform.ShowMessage = [this](std::string_view text) { TellBox(text); };
         platform.AskText = [this](std::string_view) { return boxes > 0 ? "" : "Neues"; };
@@ -45,7 +44,7 @@ public:
         platform.FocusItemName = [] {};
     }
 
-    void Start() { StartUp(window, platform, window.folders.DataFolder.parent_path()); }
+    void Start() { StartUp(window, platform); }
 
     void SaveNew() {
         if (!Open("Kleidung"))
@@ -56,46 +55,46 @@ public:
         EditItemText(editor, PriceText, "7");
         editor.cmbItemPreis.Select(1);
         ChooseItemWert(editor, 1);
-        SaveItem(editor, platform, window.folders);
+        SaveItem(editor, platform);
     }
 
     void SaveChanged() {
         if (!OpenRow("Kleidung"))
             return;
         EditItemText(editor, DescriptionText, "Geflickt");
-        SaveItem(editor, platform, window.folders);
+        SaveItem(editor, platform);
     }
 
     void Move() {
         if (!OpenRow("Kleidung"))
             return;
         editor.cmbItemKategorien.Select(PlaceOf(editor.cmbItemKategorien, "Öllampen"_ansi));
-        SaveItem(editor, platform, window.folders);
+        SaveItem(editor, platform);
     }
 
     void Delete() {
         if (OpenRow("Kleidung"))
-            ConfirmDeleteItem(editor, platform, window.folders);
+            ConfirmDeleteItem(editor, platform);
     }
 
     void AddCategory() {
         if (ReadList())
-            NewCategory(editor, platform, window.folders);
+            NewCategory(editor, platform);
     }
 
     void RemoveCategory() {
         if (Open("Abakus"))
-            DeleteCategory(editor, platform, window.folders);
+            DeleteCategory(editor, platform);
     }
 
     void Export() {
         FillShop();
-        ExportShop(window.shop, platform, window.folders);
+        ExportShop(window.shop, platform);
     }
 
     void Print() {
         FillShop();
-        PrintTempDocument(window.print, platform, window.folders,
+        PrintTempDocument(window.print, platform,
                           [this](std::string& file) { WriteShopPrint(window.shop, file); });
     }
 
@@ -110,7 +109,7 @@ private:
     // The steps before a command; false if a box has told why the user can't go on.
     bool ReadList() {
         std::vector<std::string> faults;
-        ReadCategoryList(editor, platform.files, window.folders, faults);
+        ReadCategoryList(editor, platform.disk, faults);
         if (!faults.empty())
             platform.ShowMessage(FaultsText(faults));
         return boxes == 0;
@@ -119,14 +118,14 @@ private:
     bool Open(std::string_view category) {
         if (!ReadList())
             return false;
-        ChooseCategory(editor, platform, window.folders, PlaceOf(editor.cmbKategorien, category));
+        ChooseCategory(editor, platform, PlaceOf(editor.cmbKategorien, category));
         return boxes == 0;
     }
 
     bool OpenRow(std::string_view category) {
         if (!Open(category))
             return false;
-        ChooseItemRow(editor, platform, window.folders, 1);
+        ChooseItemRow(editor, platform, 1);
         return boxes == 0;
     }
 

@@ -37,7 +37,7 @@ struct Installation {
     }
 
     ProgramFolder program;
-    ScriptedPlatform script;
+    ScriptedPlatform script{program.folders};
 };
 
 TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
@@ -46,7 +46,7 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
         here.program.Write(file, "what a killed run left");
     for (int start = 0; start < 2; ++start) {
         frmEmporiumMain window;
-        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+        EXPECT_TRUE(StartUp(window, here.script.platform));
         here.ExpectUpToDate();
         EXPECT_TRUE(fs::is_empty(here.program.folders.TempFolder));
     }
@@ -55,7 +55,7 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
 TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {
     Installation here;
     auto window = std::make_unique<frmEmporiumMain>();
-    EXPECT_TRUE(StartUp(*window, here.script.platform, here.program.root));
+    EXPECT_TRUE(StartUp(*window, here.script.platform));
     here.program.Write("Emporium/Fernwaffen.dat.orvan-neu0", "what another is writing");
     std::vector<std::string> questions;
     bool goOn = false;
@@ -66,7 +66,7 @@ TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {
     for (const bool answer : {false, true, true}) {
         goOn = answer;
         auto next = std::make_unique<frmEmporiumMain>();
-        EXPECT_EQ(StartUp(*next, here.script.platform, here.program.root), goOn);
+        EXPECT_EQ(StartUp(*next, here.script.platform), goOn);
         EXPECT_EQ(next->items.CategoryNames.size(), goOn ? 1U : 0U);
         if (goOn)
             window = std::move(next); // the copy before it ends
@@ -75,14 +75,14 @@ TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {
     EXPECT_NE(here.program.Read("Emporium/Fernwaffen.dat.orvan-neu0"), "(absent)");
     window.reset();
     frmEmporiumMain alone;
-    EXPECT_TRUE(StartUp(alone, here.script.platform, here.program.root));
+    EXPECT_TRUE(StartUp(alone, here.script.platform));
     EXPECT_EQ(questions.size(), 3U);
 }
 
 TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing) {
     Installation here;
     const Folders& folders = here.program.folders;
-    auto& files = here.script.platform.files;
+    auto& files = here.script.platform.disk.files;
     const std::pair<fs::path, std::string_view> notices[] = {
         {folders.EmporiumFolder(), "Das Programm kann in seinen Ordner nicht schreiben."},
         {folders.TempFolder, "Das Programm kann in den Ordner Temp nicht schreiben"}};
@@ -94,8 +94,8 @@ TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing)
         };
         here.script.ExpectMessage(notice);
         frmEmporiumMain window;
-        EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
-        ChooseCategory(window.items, here.script.platform, folders, 1);
+        EXPECT_TRUE(StartUp(window, here.script.platform));
+        ChooseCategory(window.items, here.script.platform, 1);
         EXPECT_GE(window.items.ItemCount(), 1) << "it can still be read";
         const bool touched = locked == folders.TempFolder;
         EXPECT_EQ(here.program.Read(OlderFile), touched ? "(absent)" : Older);
@@ -107,7 +107,7 @@ TEST(Start, SaysThatTheProgramStandsAlone) {
     fs::remove_all(here.program.folders.DataFolder);
     here.script.ExpectMessage("Neben dem Programm fehlt der Ordner Data.");
     frmEmporiumMain window;
-    EXPECT_TRUE(StartUp(window, here.script.platform, here.program.root));
+    EXPECT_TRUE(StartUp(window, here.script.platform));
     EXPECT_FALSE(fs::exists(here.program.folders.DataFolder));
 }
 

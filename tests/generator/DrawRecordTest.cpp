@@ -52,10 +52,9 @@ RecordView View(const ItemRecord& record) {
 // Draws with dice that show these faces, each of which has to be thrown.
 bool DrawWith(std::initializer_list<int> faces, const ItemRecord& record,
               const ShopWishes& wishes) {
-    RegionTable regions = RegionInit();
     ScriptedPlatform script;
     script.Throw(faces);
-    const bool passes = DrawRecord(View(record), wishes, regions, script.platform.RollDice);
+    const bool passes = DrawRecord(View(record), wishes, script.platform.RollDice);
     const std::vector<int> sides = {6, 20};
     EXPECT_TRUE(script.sides.size() == faces.size() &&
                 std::equal(script.sides.begin(), script.sides.end(), sides.begin()));
@@ -64,12 +63,11 @@ bool DrawWith(std::initializer_list<int> faces, const ItemRecord& record,
 
 std::vector<bool> DrawMany(int count, const std::function<float()>& clock, const ItemRecord& record,
                            const ShopWishes& wishes) {
-    RegionTable regions = RegionInit();
     Dice dice(clock);
     std::vector<bool> passes;
     for (int i = 0; i < count; ++i)
-        passes.push_back(DrawRecord(View(record), wishes, regions,
-                                    [&dice](std::int32_t n) { return dice.RollDice(n); }));
+        passes.push_back(
+            DrawRecord(View(record), wishes, [&dice](std::int32_t n) { return dice.RollDice(n); }));
     return passes;
 }
 

@@ -34,10 +34,7 @@ protected:
         program.Write("Emporium/ShopgeneratorConfig.dat", Lines(lines));
     }
 
-    void Run() {
-        RegionTable regions = RegionInit();
-        GenerateShop(dialog, shop, regions, script.platform, program.folders);
-    }
+    void Run() { GenerateShop(dialog, shop, script.platform); }
 
     // Runs with dice that always show the highest face but one.
     std::string Wares() {
@@ -51,7 +48,7 @@ protected:
     }
 
     ProgramFolder program;
-    ScriptedPlatform script;
+    ScriptedPlatform script{program.folders};
     ShopEditor shop;
     frmEmporiumGenerator dialog;
 };
@@ -61,7 +58,7 @@ TEST_F(GenerateShops, EachRecordHasItsOwnThrowsInFileOrder) {
     program.Write("Emporium/Waffen.dat", Item("Dolch5", "7D", "PU|") + Item("Keule9") +
                                              Item("Axt1", "12D", "") + Item("Speer4", "250H"));
     TickShopRegion(dialog, true);
-    ChooseGeneratorRegion(dialog, script.platform, program.folders, 18);
+    ChooseGeneratorRegion(dialog, script.platform, 18);
     script.Throw({1, 17, 6, 16, 4, 16, 1, 2, 1});
     Run();
     EXPECT_EQ(script.sides, (std::vector<int>{6, 20, 6, 20, 6, 20, 6, 6, 20}));
@@ -102,7 +99,7 @@ TEST_F(GenerateShops, WhatIsWrongWithAFileIsTold) {
     program.Write("Emporium/Waffen.dat", Item("Axt1"));
     for (const auto& [name, wares] : {std::pair<std::string, std::string>{"Kleidung.dat", "Axt "},
                                       {"ShopgeneratorConfig.dat", ""}}) {
-        script.platform.files.read = [&name](const std::filesystem::path& file) {
+        script.platform.disk.files.read = [&name](const std::filesystem::path& file) {
             if (file.filename() != name)
                 return SystemFiles().read(file);
             return FileText{
@@ -111,7 +108,7 @@ TEST_F(GenerateShops, WhatIsWrongWithAFileIsTold) {
         script.ExpectMessage("Nicht alles ist gelungen:\n\n" + name + ": Beim ");
         EXPECT_EQ(Wares(), wares);
     }
-    script.platform.files = SystemFiles();
+    script.platform.disk.files = SystemFiles();
     program.Write("Emporium/Kleidung.dat", Item("Hemd1") + "Rest1\r\n");
     script.ExpectMessage("Nicht alles ist gelungen:\n\nKleidung.dat: Der letzte Datensatz");
     EXPECT_EQ(Wares(), "Axt Hemd ");
@@ -122,7 +119,7 @@ TEST_F(GenerateShops, WhatIsWrongWithAFileIsTold) {
     }
     program.Write("Emporium/ShopgeneratorShops.dat", "");
     script.ExpectMessage("Nicht alles ist gelungen:\n\nShopgeneratorShops.dat: Die Datei ist leer");
-    OpenGenerator(dialog, shop, script.platform, program.folders);
+    OpenGenerator(dialog, shop, script.platform);
 }
 
 TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
@@ -130,7 +127,7 @@ TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
     std::vector choices = {ChooseGeneratorPrices, ChooseGeneratorQuality, ChooseShopType};
     std::sort(choices.begin(), choices.end());
     do {
-        OpenGenerator(dialog, shop, script.platform, program.folders);
+        OpenGenerator(dialog, shop, script.platform);
         for (const auto choose : choices) {
             EXPECT_FALSE(dialog.cmdStart.enabled);
             choose(dialog, 1);
@@ -143,7 +140,7 @@ TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
     TickShopRegion(dialog, true);
     ChooseGeneratorPrices(dialog, 0);
     EXPECT_FALSE(dialog.cmdStart.enabled) << "a ticked box needs a region";
-    ChooseGeneratorRegion(dialog, script.platform, program.folders, 18);
+    ChooseGeneratorRegion(dialog, script.platform, 18);
     EXPECT_TRUE(dialog.cmdStart.enabled);
 }
 

@@ -59,13 +59,13 @@ TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
                  {"|", "", "Land ZY"}};
     ItemEditor editor;
     for (const auto& c : cases) {
-        ShowAvailability(editor, platform, world.program.folders, "TO|WA|");
+        ShowAvailability(editor, platform, "TO|WA|");
         editor.lblRegionen.caption = "-";
-        ShowAvailability(editor, platform, world.program.folders, c.shown);
+        ShowAvailability(editor, platform, c.shown);
         EXPECT_EQ(RecordOfForm(editor)[AvailabilityField], c.chosen) << c.shown;
         EXPECT_EQ(editor.lblRegionen.caption, c.label) << c.shown;
     }
-    MoveAllRegionsIn(editor, platform, world.program.folders);
+    MoveAllRegionsIn(editor, platform);
     EXPECT_EQ(RecordOfForm(editor)[AvailabilityField],
               "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|"_ansi);
     editor.lstVerfügbar.Select(1);

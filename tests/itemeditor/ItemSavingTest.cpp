@@ -61,11 +61,11 @@ TEST(ItemSaving, AFailureChangesNothingOnAnyRoad) {
     const auto empty = [](EditorAtWork& world) { world.View("Abakus"); };
     ExpectAllOrNothing(empty, [](EditorAtWork& world) {
         world.script.ExpectText(NamePrompt, "Zelte");
-        NewCategory(world.editor, world.script.platform, world.program.folders);
+        NewCategory(world.editor, world.script.platform);
     });
     ExpectAllOrNothing(empty, [](EditorAtWork& world) {
         world.script.ExpectYesNo(DeleteCategoryQuestion, true);
-        DeleteCategory(world.editor, world.script.platform, world.program.folders);
+        DeleteCategory(world.editor, world.script.platform);
     });
 }
 
@@ -162,9 +162,7 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
 TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     EditorAtWork world;
     const auto list = [&world] { return world.File("ItemKategorien"); };
-    const auto create = [&world] {
-        NewCategory(world.editor, world.script.platform, world.program.folders);
-    };
+    const auto create = [&world] { NewCategory(world.editor, world.script.platform); };
     const std::string names = "\nAlles\nAbakus\n\nFremd\nKleidung";
     world.View("Alles");
     world.program.Write("Emporium/ItemKategorien.dat", "4" + names);
@@ -202,11 +200,11 @@ TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     world.script.ExpectYesNo(DeleteCategoryQuestion, true);
     world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
     world.program.Write("Emporium/Abakus.dat", "Fremd1\n");
-    DeleteCategory(world.editor, world.script.platform, world.program.folders);
+    DeleteCategory(world.editor, world.script.platform);
     EXPECT_EQ(world.File("Abakus"), "Fremd1\n");
     world.program.Write("Emporium/Abakus.dat", "");
     world.script.ExpectYesNo(DeleteCategoryQuestion, true);
-    DeleteCategory(world.editor, world.script.platform, world.program.folders);
+    DeleteCategory(world.editor, world.script.platform);
     EXPECT_EQ(list(), " 0 \nAlles\n");
 }
 

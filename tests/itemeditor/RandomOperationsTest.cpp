@@ -182,7 +182,7 @@ protected:
             model.list.push_back(name);
             model.files[name];
         }
-        NewCategory(world.editor, world.script.platform, world.program.folders);
+        NewCategory(world.editor, world.script.platform);
     }
 
     void DropCategory() {
@@ -197,7 +197,7 @@ protected:
                 model.formCategory = "";
             model.view = "";
         }
-        DeleteCategory(world.editor, world.script.platform, world.program.folders);
+        DeleteCategory(world.editor, world.script.platform);
     }
 
     void Operate() {

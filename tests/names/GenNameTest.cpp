@@ -35,12 +35,12 @@ protected:
     std::string Draw(std::string_view race, const std::vector<int>& throws, std::string& sex) {
         script.Throw(throws);
         script.sides.clear();
-        NameLists lists(script.platform.files, program.folders, script.platform.RollDice);
+        NameLists lists(script.platform.disk, script.platform.RollDice);
         return GenName(lists, race, sex);
     }
 
     ProgramFolder program;
-    ScriptedPlatform script;
+    ScriptedPlatform script{program.folders};
     const std::string male{"Männlich"_ansi};
 };
 

@@ -90,9 +90,10 @@ protected:
                            << Shown(known->second) << ", too";
     }
 
-    const Folders folders = InitFolders(fs::path(STARTER_DATA).parent_path());
-    const FileLayer files = SystemFiles();
-    const std::vector<std::string> categories = ReadCategoryNames(files, folders).names;
+    const Disk disk{SystemFiles(), InitFolders(fs::path(STARTER_DATA).parent_path())};
+    const Folders& folders = disk.folders;
+    const FileLayer& files = disk.files;
+    const std::vector<std::string> categories = ReadCategoryNames(disk).names;
 
 private:
     std::map<std::string, std::string> places_;
@@ -137,7 +138,7 @@ TEST_F(StarterData, EveryItemIsSoundAndRareThingsAreRare) {
     std::set<std::string> descriptions;
     int own = 0;
     for (const std::string& category : categories) {
-        const CategoryFile file = ReadCategoryFile(files, folders, category);
+        const CategoryFile file = ReadCategoryFile(disk, category);
         EXPECT_FALSE(file.records.empty() || file.cutOff) << Shown(category);
         own += IsFixedCategory(category) ? 0 : static_cast<int>(file.records.size());
         for (const RecordView& record : file.records) {
@@ -160,7 +161,7 @@ TEST_F(StarterData, EveryItemIsSoundAndRareThingsAreRare) {
 TEST_F(StarterData, EveryRegionHasALongNameOfItsOwn) {
     const auto file = folders.DataFolder / "Atlas" / "Regionen.dat";
     for (const std::string_view code : AlphabeticalRegionCodes()) {
-        const std::string name = RegionDescription(files, folders, code);
+        const std::string name = RegionDescription(disk, code);
         EXPECT_FALSE(name.empty()) << Shown(code);
         ExpectNew(name, std::string(code));
     }
@@ -177,11 +178,11 @@ TEST_F(StarterData, TheArsenalIsFilledAndIsWhatTheFixedCategoriesHold) {
     fs::remove(empty.folders.DataFolder / "Arsenal");
     fs::copy(folders.DataFolder / "Arsenal", empty.folders.DataFolder / "Arsenal");
     std::vector<std::string> faults;
-    ImportArsenal(files, empty.folders, faults);
+    ImportArsenal(Disk{files, empty.folders}, faults);
     EXPECT_TRUE(faults.empty()) << faults.front();
     for (const std::string_view name : FixedCategories()) {
-        const CategoryFile shipped = ReadCategoryFile(files, folders, name);
-        const CategoryFile imported = ReadCategoryFile(files, empty.folders, name);
+        const CategoryFile shipped = ReadCategoryFile(disk, name);
+        const CategoryFile imported = ReadCategoryFile(Disk{files, empty.folders}, name);
         EXPECT_GE(shipped.records.size(), atLeast.at(name)) << Shown(name);
         ASSERT_EQ(imported.records.size(), shipped.records.size()) << Shown(name);
         for (std::size_t i = 0; i < shipped.records.size(); ++i) {
@@ -213,8 +214,8 @@ TEST_F(StarterData, NoNameStandsInTheNameListsTwice) {
 
 TEST_F(StarterData, EveryShopTypeSellsCategoriesThatExist) {
     std::vector<std::string> faults;
-    const auto types = ReadShopTypes(files, folders, faults);
-    const IniFile config = ReadGeneratorConfig(files, folders, faults);
+    const auto types = ReadShopTypes(disk, faults);
+    const IniFile config = ReadGeneratorConfig(disk, faults);
     EXPECT_TRUE(faults.empty());
     EXPECT_GE(types.size(), 30U);
     std::set<std::string> heads;
@@ -249,13 +250,12 @@ TEST_F(StarterData, AtMostOneShopInAHundredIsEmptyAndAllCanBePrinted) {
     const Die die = [&random](std::int32_t n) {
         return static_cast<std::int32_t>(random() % static_cast<std::uint32_t>(n)) + 1;
     };
-    RegionTable regions = RegionInit();
     std::vector<std::string> faults;
-    const IniFile config = ReadGeneratorConfig(files, folders, faults);
-    for (const std::string& type : ReadShopTypes(files, folders, faults)) {
+    const IniFile config = ReadGeneratorConfig(disk, faults);
+    for (const std::string& type : ReadShopTypes(disk, faults)) {
         std::vector<ItemRecord> wares;
         for (std::int16_t n = 1; n <= ReadWareCount(config, type); ++n) {
-            const auto file = ReadCategoryFile(files, folders, ReadWareCategory(config, type, n));
+            const auto file = ReadCategoryFile(disk, ReadWareCategory(config, type, n));
             std::transform(file.records.begin(), file.records.end(), std::back_inserter(wares),
                            CopyOf);
         }
@@ -266,7 +266,7 @@ TEST_F(StarterData, AtMostOneShopInAHundredIsEmptyAndAllCanBePrinted) {
                 const auto region = RegionCodes[run % (RegionCount + 1)];
                 const ShopWishes wishes{quality, !region.empty(), region};
                 filled += std::any_of(wares.begin(), wares.end(), [&](const ItemRecord& ware) {
-                    return DrawRecord(ViewOf(ware), wishes, regions, die);
+                    return DrawRecord(ViewOf(ware), wishes, die);
                 });
             }
             EXPECT_GE(filled, 99) << Shown(type) << ", quality " << quality;
@@ -279,10 +279,10 @@ TEST_F(StarterData, TheHelpPageFindsWhatItPointsToAndCountsWhatShips) {
     std::vector<std::string> faults;
     std::size_t items = 0;
     for (const std::string& category : categories)
-        items += ReadCategoryFile(files, folders, category).records.size();
+        items += ReadCategoryFile(disk, category).records.size();
     for (const std::string& count :
          {std::to_string(categories.size()) + " Kategorien mit", std::to_string(items) + " Gegenst",
-          std::to_string(ReadShopTypes(files, folders, faults).size()) + " Arten"})
+          std::to_string(ReadShopTypes(disk, faults).size()) + " Arten"})
         EXPECT_NE(page.find(count), page.npos) << count;
     const std::regex link("(src|href)=\"([^\"]*)\"");
     std::set<std::string> shown;

@@ -41,7 +41,7 @@ protected:
 
     void Import() {
         faults.clear();
-        ImportArsenal(files, program.folders, faults);
+        ImportArsenal(Disk{files, program.folders}, faults);
     }
 
     ProgramFolder program;

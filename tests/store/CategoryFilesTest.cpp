@@ -30,7 +30,8 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
             for (auto at = bytes.find(';'); at != bytes.npos; at = bytes.find(';'))
                 bytes.replace(at, 1, end);
             program.Write("Emporium/ Seile..dat", bytes); // such a name can't be given any more
-            const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, " Seile.");
+            const CategoryFile file =
+                ReadCategoryFile(Disk{SystemFiles(), program.folders}, " Seile.");
             EXPECT_EQ(file.records.size(), c.records) << c.bytes;
             EXPECT_EQ(file.CanBeWritten(), c.canBeWritten) << c.bytes;
             EXPECT_EQ(CategoryFaults("Seile", file).size(), c.faults) << c.bytes;
@@ -43,7 +44,7 @@ TEST(CategoryFiles, AbsentAndUnreadableAreNotEmpty) {
     program.Write("Emporium/ItemKategorien.dat", "");
     for (const std::string_view name :
          {"Ordner", "../Emporium/Ordner", "CON", "", "itemKategorien", "Fehlt"}) {
-        const CategoryFile file = ReadCategoryFile(SystemFiles(), program.folders, name);
+        const CategoryFile file = ReadCategoryFile(Disk{SystemFiles(), program.folders}, name);
         EXPECT_EQ(file.CanBeWritten(), name == "Fehlt") << name;
         EXPECT_EQ(CategoryFaults(name, file).size(), 1U) << name;
     }
@@ -61,7 +62,7 @@ TEST(CategoryFiles, AListShowsAllItsNamesAndIsOnlyChangedIfItsNumberIsTheirs) {
                  {"Seile\r\nTaue\r\n", false},
                  {"\r\nSeile\r\nTaue\r\n", false}};
     const ProgramFolder program;
-    const auto read = [&] { return ReadCategoryNames(SystemFiles(), program.folders); };
+    const auto read = [&] { return ReadCategoryNames(Disk{SystemFiles(), program.folders}); };
     EXPECT_NE(CategoryListFault(read()), "") << "no list";
     program.Write("Emporium/ItemKategorien.dat", "");
     EXPECT_NE(CategoryListFault(read()), "") << "an empty list";
@@ -85,8 +86,8 @@ TEST(CategoryNames, NamesThatAreTakenOrThatNoFileCanBearAreRefused) {
     for (const auto file : {"Emporium/Kleidung.dat"_ansi, "Emporium/Schläuche.dat"_ansi})
         program.Write(file, "x\r\n");
     const auto refusal = [&](std::string_view name) {
-        return CategoryNameRefusal(program.folders, {"Kleidung", std::string("Öllampen"_ansi)},
-                                   name);
+        return CategoryNameRefusal(Disk{SystemFiles(), program.folders},
+                                   {"Kleidung", std::string("Öllampen"_ansi)}, name);
     };
     Names impossible =
         Split("a/b;a\\b;/;..;.;../a;C:;a:b;a*;?a;\"a\";<a;a>;a|b;CON;con;Prn;AUX;nul.txt;"
@@ -116,7 +117,7 @@ TEST(CategoryNames, NamesThatAreTakenOrThatNoFileCanBearAreRefused) {
     for (const std::string& name : good) {
         EXPECT_EQ(refusal(name), "") << name;
         program.Write("Emporium/" + name + ".dat", name);
-        EXPECT_EQ(*ReadCategoryFile(SystemFiles(), program.folders, name).bytes, name);
+        EXPECT_EQ(*ReadCategoryFile(Disk{SystemFiles(), program.folders}, name).bytes, name);
         EXPECT_NE(refusal(name), "") << "its file stands now";
     }
 }

@@ -62,26 +62,25 @@ public:
                 bytes += c == ';' ? "\r\n" : std::string(1, c);
             program.Write(std::string("Emporium/").append(name).append(".dat"), bytes);
         }
-        script.platform.files = QuickFiles();
+        script.platform.disk.files = QuickFiles();
         ReadList();
     }
 
     ProgramFolder program;
-    ScriptedPlatform script;
+    ScriptedPlatform script{program.folders};
     ItemEditor editor;
 
     /// Reads the category list, as the start of the program does.
     void ReadList() {
         editor = ItemEditor();
         std::vector<std::string> faults;
-        ReadCategoryList(editor, script.platform.files, program.folders, faults);
+        ReadCategoryList(editor, script.platform.disk, faults);
         EXPECT_TRUE(faults.empty());
     }
 
     /// Picks a view, or the category in the form.
     void View(std::string_view entry) {
-        ChooseCategory(editor, script.platform, program.folders,
-                       PlaceOf(editor.cmbKategorien, entry));
+        ChooseCategory(editor, script.platform, PlaceOf(editor.cmbKategorien, entry));
     }
 
     void FormCategory(std::string_view entry) {
@@ -91,7 +90,7 @@ public:
     /// Picks the row of a record, or of the first of that name.
     void Open(int record) {
         ASSERT_GE(record, 0);
-        ChooseItemRow(editor, script.platform, program.folders, record);
+        ChooseItemRow(editor, script.platform, record);
     }
 
     void Open(std::string_view name) {
@@ -111,15 +110,14 @@ public:
         ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
         ReturnAllRegions(editor);
         for (const std::string_view code : AvailabilityCodes(record[AvailabilityField])) {
-            SelectRegion(editor, script.platform, program.folders,
-                         PlaceOf(editor.lstRegionen, code));
+            SelectRegion(editor, script.platform, PlaceOf(editor.lstRegionen, code));
             MoveRegionIn(editor);
         }
     }
 
-    void Save() { SaveItem(editor, script.platform, program.folders); }
+    void Save() { SaveItem(editor, script.platform); }
 
-    void Delete() { ConfirmDeleteItem(editor, script.platform, program.folders); }
+    void Delete() { ConfirmDeleteItem(editor, script.platform); }
 
     void Delete(bool answer) {
         script.ExpectYesNo(DeleteQuestion, answer);
@@ -203,18 +201,18 @@ inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare
         SCOPED_TRACE("file operation " + std::to_string(n));
         EditorAtWork world;
         prepare(world);
-        const FileLayer sound = world.script.platform.files;
+        const FileLayer sound = world.script.platform.disk.files;
         int boxes = 0;
         world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
         const FaultyFiles faulty(Fault::Once, n);
-        world.script.platform.files = faulty.files;
+        world.script.platform.disk.files = faulty.files;
         act(world);
         fired = faulty.HasFired();
         EXPECT_LE(boxes, 1);
         EXPECT_EQ(world.Files(), boxes > 0 ? filesBefore : whole.Files());
         EXPECT_EQ(world.State(), boxes > 0 ? stateBefore : whole.State());
         world.script.Forget();
-        world.script.platform.files = sound;
+        world.script.platform.disk.files = sound;
         if (boxes > 0)
             act(world);
         EXPECT_EQ(world.Files(), whole.Files());

@@ -15,8 +15,8 @@ namespace emporium::test {
 
 class ScriptedPlatform {
 public:
-    ScriptedPlatform() {
-        platform.files = SystemFiles();
+    explicit ScriptedPlatform(const Folders& folders = {}) {
+        platform.disk = {SystemFiles(), folders};
         platform.RollDice = [this](std::int32_t n) {
             sides.push_back(n);
             if (throws_.empty()) {
