@@ -67,7 +67,8 @@ void Write(int categories, benchmark::State& state) {
     const World world(static_cast<int>(state.range(0)), categories);
     const auto file = ReadCategoryFile(world.platform.disk, CategoryName(0));
     for (auto _ : state)
-        WriteAndFlush(world.folders.TempFolder / "bytes.dat", *file.bytes);
+        WriteAndFlush(world.platform.disk.files, world.folders.TempFolder / "bytes.dat",
+                      *file.bytes);
 }
 
 // A changed item, in a view of one category or of all.
@@ -145,7 +146,7 @@ void BoundImport(benchmark::State& state) {
         state.ResumeTiming();
         benchmark::DoNotOptimize(CountLines(files, import.source));
         benchmark::DoNotOptimize(CountLines(files, import.category));
-        WriteAndFlush(import.world.folders.TempFolder / "bytes.dat", imported.bytes);
+        WriteAndFlush(files, import.world.folders.TempFolder / "bytes.dat", imported.bytes);
     }
 }
 
