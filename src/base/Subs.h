@@ -36,7 +36,7 @@ std::string ReadIniValue(const FileLayer& files, const std::filesystem::path& fi
 /// True if the path names a file that is neither hidden nor a folder, or if the system can't tell:
 /// reading it then says why. The name may hold the wildcards "*" and "?"; one matching file is
 /// enough then.
-bool FileExists(const std::filesystem::path& path);
+bool FileExists(const FileLayer& files, const std::filesystem::path& path);
 
 /// A throw of a die with n sides, 1 to n.
 using Die = std::function<std::int32_t(std::int32_t n)>;

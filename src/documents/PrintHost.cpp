@@ -7,6 +7,8 @@ namespace emporium {
 
 namespace {
 
+const std::string NotLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
+
 enum class Wait { Ready, TimedOut, WindowClosed };
 
 Wait WaitForPage(const PrintHost& host, const Platform& platform) {
@@ -29,15 +31,21 @@ bool Load(PrintHost& host, const Platform& platform,
     host.PreviewReady = false;
     std::string document;
     writer(document);
-    if (const auto failure = WriteFile(platform.disk.files, page, std::move(document))) {
-        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
+    const auto& files = platform.disk.files;
+    files.createFolder(page.parent_path());
+    const auto written = WriteFiles(files, page.parent_path(), {{page, std::move(document)}});
+    if (written.failure) {
+        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *written.failure);
         return false;
     }
-    platform.Browser.Navigate(page);
+    if (!platform.Browser.Navigate(page)) {
+        fault = NotLoaded + FromPath(page);
+        return false;
+    }
     const Wait wait = WaitForPage(host, platform);
     host.PreviewReady = false;
     if (wait == Wait::TimedOut)
-        fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
+        fault = NotLoaded + FromPath(page);
     return wait == Wait::Ready;
 }
 

@@ -75,7 +75,7 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
     for (int n = 1; n <= count.value_or(0); ++n) {
         const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
         const auto file = CategoryPath(platform.disk.folders, name);
-        if (!IsPlainName(name) || !FileExists(file))
+        if (!IsPlainName(name) || !FileExists(platform.disk.files, file))
             continue;
         const FileText category = platform.disk.files.read(file);
         if (category.state == FileText::State::Unreadable)

@@ -1,9 +1,9 @@
 #include "ui/HtmlView.h"
 
-#include "files/FileLayer.h"
 #include "ui/Text.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QTextDocument>
@@ -44,7 +44,8 @@ public:
     }
 
 protected:
-    QVariant loadResource(int, const QUrl&) override { return {}; }
+    // An empty answer would have the address opened as a path.
+    QVariant loadResource(int, const QUrl&) override { return QImage(1, 1, QImage::Format_Mono); }
 };
 
 // Lays the page out anew if the printer's paper is another than A4.
@@ -90,11 +91,8 @@ std::vector<int> PagesToPrint(const QPrinter& printer, int count) {
 
 HtmlView::HtmlView(QWidget* parent) : QWidget(parent), page_(new PageDocument(this)) {}
 
-void HtmlView::Navigate(const std::filesystem::path& file) {
-    const FileText text = SystemFiles().read(file);
-    if (!text.IsWhole())
-        return;
-    page_->setHtml(AsBrowserReads(text.bytes));
+void HtmlView::Navigate(const std::string& bytes) {
+    page_->setHtml(AsBrowserReads(bytes));
     update();
     QTimer::singleShot(0, this, &HtmlView::navigateComplete);
 }

@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <QWidget>
 
-#include <filesystem>
+#include <string>
 
 namespace emporium::ui {
 
@@ -16,9 +16,8 @@ class HtmlView : public QWidget {
 public:
     explicit HtmlView(QWidget* parent);
 
-    /// Loads a document of the program; `navigateComplete` tells when it is there. A file that
-    /// can't be read is never reported.
-    void Navigate(const std::filesystem::path& file);
+    /// Loads a document of the program; `navigateComplete` tells when it is there.
+    void Navigate(const std::string& bytes);
 
     /// Prints the pages that the printer was told, as text and with page numbers. False if the
     /// printer, or the file that it prints to, failed.

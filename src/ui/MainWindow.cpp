@@ -51,7 +51,12 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
         browser_->setVisible(visible);
         session_.mirror.Update();
     };
-    platform.Browser.Navigate = [this](const auto& file) { browser_->Navigate(file); };
+    platform.Browser.Navigate = [this](const auto& file) {
+        const FileText page = session_.platform.disk.files.read(file);
+        if (page.IsWhole())
+            browser_->Navigate(page.bytes);
+        return page.IsWhole();
+    };
     platform.Browser.Print = [this] { return PrintPage(*this, *browser_); };
     platform.ShowGeneratorDialog = [this] {
         session_.mirror.Update();

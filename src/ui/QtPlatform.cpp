@@ -29,8 +29,8 @@ bool AskYesNo(QWidget& window, const YesNoBox& box) {
     question.setIcon(box.icon == BoxIcon::Warning ? QMessageBox::Warning : QMessageBox::Question);
     question.setWindowTitle(ToQString(ProgramTitle));
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    question.setDefaultButton(QMessageBox::Yes);
-    question.setEscapeButton(box.closingMeansYes ? QMessageBox::Yes : QMessageBox::No);
+    question.setDefaultButton(box.noIsDefault ? QMessageBox::No : QMessageBox::Yes);
+    question.setEscapeButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }
 
