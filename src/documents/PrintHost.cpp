@@ -7,7 +7,7 @@ namespace emporium {
 
 namespace {
 
-enum class Wait { Ready, TimedOut, WindowClosed };
+enum class Wait { Ready, Failed, WindowClosed };
 
 Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     using Clock = std::chrono::steady_clock;
@@ -16,7 +16,7 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
         if (!platform.ProcessEvents())
             return Wait::WindowClosed;
         if (!host.PreviewReady && Clock::now() > deadline)
-            return Wait::TimedOut;
+            return Wait::Failed;
     }
     return Wait::Ready;
 }
@@ -33,10 +33,9 @@ bool Load(PrintHost& host, const Platform& platform,
         fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
         return false;
     }
-    platform.Browser.Navigate(page);
-    const Wait wait = WaitForPage(host, platform);
+    const Wait wait = platform.Browser.Navigate(page) ? WaitForPage(host, platform) : Wait::Failed;
     host.PreviewReady = false;
-    if (wait == Wait::TimedOut)
+    if (wait == Wait::Failed)
         fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
     return wait == Wait::Ready;
 }

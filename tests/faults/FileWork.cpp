@@ -37,7 +37,9 @@ public:
         };
         platform.OpenInViewer = [](const auto&) {};
         platform.Browser.SetVisible = [](bool) {};
-        platform.Browser.Navigate = [this](const auto&) { window.print.PreviewReady = true; };
+        platform.Browser.Navigate = [this](const auto&) {
+            return window.print.PreviewReady = true;
+        };
         platform.Browser.Print = [] { return true; };
         platform.ProcessEvents = [] { return true; };
         platform.SetWaitPointer = [](bool) {};
