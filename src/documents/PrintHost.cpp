@@ -7,9 +7,7 @@ namespace emporium {
 
 namespace {
 
-const std::string NotLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
-
-enum class Wait { Ready, TimedOut, WindowClosed };
+enum class Wait { Ready, Failed, WindowClosed };
 
 Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     using Clock = std::chrono::steady_clock;
@@ -18,7 +16,7 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
         if (!platform.ProcessEvents())
             return Wait::WindowClosed;
         if (!host.PreviewReady && Clock::now() > deadline)
-            return Wait::TimedOut;
+            return Wait::Failed;
     }
     return Wait::Ready;
 }
@@ -38,14 +36,10 @@ bool Load(PrintHost& host, const Platform& platform,
         fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *written.failure);
         return false;
     }
-    if (!platform.Browser.Navigate(page)) {
-        fault = NotLoaded + FromPath(page);
-        return false;
-    }
-    const Wait wait = WaitForPage(host, platform);
+    const Wait wait = platform.Browser.Navigate(page) ? WaitForPage(host, platform) : Wait::Failed;
     host.PreviewReady = false;
-    if (wait == Wait::TimedOut)
-        fault = NotLoaded + FromPath(page);
+    if (wait == Wait::Failed)
+        fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
     return wait == Wait::Ready;
 }
 
