@@ -164,6 +164,18 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
     EXPECT_FALSE(WriteDocument(files, here.folder / "b.dat", "noch einer"));
     EXPECT_EQ(here.disk.Read("Emporium/b.dat"), "noch einer");
     EXPECT_TRUE(WriteDocument(files, here.folder / "neu.html", "Laden"));
+    for (int n = 1, calls = n; calls >= n; ++n) {
+        Writing cut;
+        cut.disk.lastCall = n;
+        try {
+            EXPECT_FALSE(WriteDocument(cut.disk.Files(), cut.folder / "c.dat", "Laden"));
+        } catch (const KilledHere&) {
+        }
+        calls = cut.disk.calls;
+        cut.disk.CutPower(true, true);
+        const std::string page = cut.disk.Read("Emporium/c.dat");
+        EXPECT_TRUE(page == "Laden" || page == "alt c.dat") << page;
+    }
 }
 
 JournalEntry Entry(const char* name, std::optional<std::string> before, std::string after) {

@@ -1,5 +1,6 @@
 #include "frame/frmEmporiumMain.h"
 #include "itemeditor/CategoryChoice.h"
+#include "support/MemoryDisk.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
@@ -50,6 +51,42 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
         here.ExpectUpToDate();
         EXPECT_TRUE(fs::is_empty(here.program.folders.TempFolder));
     }
+}
+
+TEST(Start, MayBreakOffInAnyCallAndIsFinishedByTheNext) {
+    const auto tries = [](int n, int trouble) {
+        SCOPED_TRACE(std::to_string(n) + ", trouble " + std::to_string(trouble));
+        Installation here;
+        MemoryDisk disk;
+        for (const char* name :
+             {"Emporium/ItemKategorien.dat", "Arsenal/Fernwaffen.dat", OlderFile, PresentFile})
+            disk.Write(name, here.program.Read(name));
+        ScriptedPlatform script(disk.folders);
+        script.platform.disk.files = disk.Files();
+        script.platform.ShowMessage = [](std::string_view) {};
+        if (trouble == 0)
+            disk.failing = {n};
+        else
+            disk.lastCall = n;
+        const auto start = [&] {
+            frmEmporiumMain window;
+            StartUp(window, script.platform);
+        };
+        try {
+            start();
+        } catch (const KilledHere&) {
+        }
+        const bool reached = disk.calls >= n;
+        disk.CutPower((trouble & 2) != 0, (trouble & 4) != 0);
+        start();
+        EXPECT_EQ(disk.Read(PresentFile), Older + Imported);
+        EXPECT_EQ(disk.Read(OlderFile), "(absent)");
+        EXPECT_EQ(disk.Files().entries(disk.folders.EmporiumFolder()).size(), 2U);
+        return reached;
+    };
+    for (const int trouble : {0, 1, 3, 5, 7})
+        for (int n = 1; tries(n, trouble);)
+            ++n;
 }
 
 TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {

@@ -198,15 +198,16 @@ inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare
     act(whole);
     const auto filesAfter = whole.Files();
     const auto stateAfter = whole.State();
-    const auto fails = [&](int n, int second, bool killed) {
-        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second));
+    const auto fails = [&](int n, int second, int killed) {
+        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second) + ", killed " +
+                     std::to_string(killed));
         EditorAtWork world;
         prepare(world);
         int boxes = 0;
         world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
         auto& disk = world.program;
         disk.calls = 0;
-        if (killed)
+        if (killed > 0)
             disk.lastCall = n;
         else
             disk.failing = {n, second};
@@ -216,21 +217,22 @@ inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare
         }
         world.script.Forget();
         const bool reached = disk.calls >= n;
-        disk.Restart();
+        disk.CutPower((killed & 2) != 0, (killed & 4) != 0); // each of them, both or none
         EXPECT_TRUE(TakeTurn(world.script.platform.disk).refusal.empty());
         EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
-        if (!killed) {
+        if (killed == 0) {
             const bool stands = world.Files() == filesAfter;
             EXPECT_TRUE(stands || boxes > 0);
             EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
         }
         return reached;
     };
-    for (int n = 1; fails(n, 0, false); ++n)
+    for (int n = 1; fails(n, 0, 0); ++n)
         for (int second = n + 1; second < n + 12; ++second)
-            fails(n, second, false);
-    for (int n = 1; fails(n, 0, true);)
-        ++n;
+            fails(n, second, 0);
+    for (const int killed : {1, 3, 5, 7})
+        for (int n = 1; fails(n, 0, killed);)
+            ++n;
 }
 
 /// The records as a file holds them.
