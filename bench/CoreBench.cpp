@@ -2,6 +2,7 @@
 #include "Table.h"
 #include "World.h"
 
+#include "base/Subs.h"
 #include "documents/ItemListDocument.h"
 #include "documents/ShopDocument.h"
 #include "generator/GeneratorConfig.h"

@@ -103,15 +103,10 @@ private:
     }
 };
 
-inline std::unique_ptr<ShopRow> Ware(int number) {
-    const ItemRecord r = World::Record(number);
-    return MakeShopRow(r[NameField], r[WeightField], r[PriceField], r[AvailabilityField]);
-}
-
 inline ShopEditor FilledShop(std::int64_t rows) {
     ShopEditor shop;
     for (int i = 0; i < rows; ++i)
-        shop.lvLaden.rows.push_back(Ware(i));
+        shop.lvLaden.rows.push_back(MakeShopRow(ViewOf(World::Record(i))));
     ArrangeShopList(shop);
     UpdateShopButtons(shop);
     return shop;

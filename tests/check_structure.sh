@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Holds the source's structure: includes run from higher folders to lower ones only, no file reaches
-# itself through others, and nothing but the window library and the program includes Qt.
+# Holds the source's structure: includes run from higher folders to lower ones only, no module (header
+# and source taken together) and no folder reaches itself through others, and nothing but the window
+# library and the program includes Qt.
 set -u
 cd "$(dirname "$0")/../src" || exit 1
 
@@ -33,14 +34,18 @@ wrong=$(awk -v layers="$layers" '
         if (!(from[1] in rank) || !(to[1] in rank)) print $1 " -> " $2 " (unknown folder)"
         else if (from[1] != to[1] && rank[to[1]] >= rank[from[1]]) print $1 " -> " $2
     }' <<<"$includes")
-loops=$(tsort <<<"$includes" 2>&1 >/dev/null)
+# What is left of a path names the module or the folder; what lies within one is no loop.
+loops_of() { sed -E "$1" <<<"$includes" | awk '$1 != $2' | tsort 2>&1 >/dev/null; }
+module_loops=$(loops_of 's/\.(h|cpp)\b//g')
+folder_loops=$(loops_of 's,/[^ ]+,,g')
 qt=$(grep -rlE '^#include <Q' --include='*.h' --include='*.cpp' . | grep -vE '^\./(ui|program)/')
 platform=$(grep -rlE '_WIN32' --include='*.h' --include='*.cpp' . | grep -v '^\./files/SystemFiles.cpp$')
 
 status=0
 report() { [ -z "$2" ] || { printf '%s:\n%s\n' "$1" "$2"; status=1; }; }
 report "includes that run upwards" "$wrong"
-report "files that reach themselves" "$loops"
+report "modules that reach themselves" "$module_loops"
+report "folders that reach themselves" "$folder_loops"
 report "Qt in the core" "$qt"
 report "files that ask for the system" "$platform"
 exit $status

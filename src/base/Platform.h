@@ -3,8 +3,8 @@
 // and anything may have changed when the call returns.
 #pragma once
 
+#include "base/Dice.h"
 #include "base/Disk.h"
-#include "base/Subs.h"
 #include "files/FileLayer.h"
 
 #include <chrono>

@@ -44,8 +44,8 @@ std::string Row(std::initializer_list<std::pair<std::string_view, std::string_vi
 
 ShopEditor FilledShop() {
     ShopEditor shop;
-    AddShopRow(shop, MakeShopRow("Seil (x3)2", "0,5", "12D", "BO|EL|FI|GA|"));
-    AddShopRow(shop, MakeShopRow("<Öl> & Fett1"_ansi, "", "7S", "GA|"));
+    AddShopRow(shop, MakeShopRow({"Seil (x3)2", "0,5", "12D", "Text", "BO|EL|FI|GA|"}));
+    AddShopRow(shop, MakeShopRow({"<Öl> & Fett1"_ansi, "", "7S", "", "GA|"}));
     ChoosePriceLevel(shop, 1);
     SortShopList(shop, ShopTextColumn);
     shop.txtName.text = "Zur Öse"_ansi;

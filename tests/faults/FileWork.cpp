@@ -132,7 +132,7 @@ private:
     void FillShop() {
         window.shop.txtName.text = "Zum vollen Fass";
         for (int i = 0; i < 300; ++i)
-            AddShopRow(window.shop, MakeShopRow("Fackel2", "5", "2H", "BO|GA|"));
+            AddShopRow(window.shop, MakeShopRow({"Fackel2", "5", "2H", "", "BO|GA|"}));
     }
 
     Platform platform;

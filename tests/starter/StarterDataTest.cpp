@@ -215,24 +215,24 @@ TEST_F(StarterData, NoNameStandsInTheNameListsTwice) {
 TEST_F(StarterData, EveryShopTypeSellsCategoriesThatExist) {
     std::vector<std::string> faults;
     const auto types = ReadShopTypes(disk, faults);
-    const IniFile config = ReadGeneratorConfig(disk, faults);
     EXPECT_TRUE(faults.empty());
     EXPECT_GE(types.size(), 30U);
     std::set<std::string> heads;
     std::set<std::string> sold;
     for (const std::string& type : types) {
         ExpectNew(type, "ShopgeneratorShops.dat");
+        const IniSection config = ReadTypeConfig(disk, type, faults);
         heads.insert("[" + type + "]");
-        const std::int16_t count = ReadWareCount(config, type).value_or(0);
+        const std::int16_t count = ReadWareCount(config).value_or(0);
         EXPECT_GE(count, 1) << Shown(type);
         for (std::int16_t n = 1; n <= count; ++n) {
-            const std::string category = ReadWareCategory(config, type, n);
+            const std::string category = ReadWareCategory(config, n);
             EXPECT_EQ(std::count(categories.begin(), categories.end(), category), 1)
                 << Shown(type) << " Ware" << n << ": " << Shown(category);
             ExpectNew(type + ": " + category, "ShopgeneratorConfig.dat");
             sold.insert(category);
         }
-        EXPECT_EQ(ReadWareCategory(config, type, static_cast<std::int16_t>(count + 1)), "")
+        EXPECT_EQ(ReadWareCategory(config, static_cast<std::int16_t>(count + 1)), "")
             << Shown(type) << " has more wares than it counts";
     }
     EXPECT_EQ(sold.size(), categories.size()) << "a category that no shop sells";
@@ -251,11 +251,11 @@ TEST_F(StarterData, AtMostOneShopInAHundredIsEmptyAndAllCanBePrinted) {
         return static_cast<std::int32_t>(random() % static_cast<std::uint32_t>(n)) + 1;
     };
     std::vector<std::string> faults;
-    const IniFile config = ReadGeneratorConfig(disk, faults);
     for (const std::string& type : ReadShopTypes(disk, faults)) {
+        const IniSection config = ReadTypeConfig(disk, type, faults);
         std::vector<ItemRecord> wares;
-        for (std::int16_t n = 1; n <= ReadWareCount(config, type); ++n) {
-            const auto file = ReadCategoryFile(disk, ReadWareCategory(config, type, n));
+        for (std::int16_t n = 1; n <= ReadWareCount(config); ++n) {
+            const auto file = ReadCategoryFile(disk, ReadWareCategory(config, n));
             std::transform(file.records.begin(), file.records.end(), std::back_inserter(wares),
                            CopyOf);
         }
