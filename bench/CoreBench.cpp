@@ -112,7 +112,7 @@ void Remove10000ShopRows(benchmark::State& state) {
         ChooseShopRow(shop, 0);
         state.ResumeTiming();
         for (int i = 0; i < 10'000; ++i)
-            RemoveShopRow(shop);
+            RemoveShopRow(shop, {});
     }
 }
 

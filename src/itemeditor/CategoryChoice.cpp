@@ -96,7 +96,7 @@ bool ReadListToChange(const Platform& platform, std::string_view what, CategoryL
 // A usable name from the user and the list that it is to enter; an empty name if he gives up.
 std::string AskCategoryName(const Platform& platform, CategoryList& list) {
     for (;;) {
-        std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.");
+        std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.", {});
         if (name.empty() || !ReadListToChange(platform, NotCreated, list))
             return {};
         const std::string refusal = CategoryNameRefusal(platform.disk, list.names, name);
@@ -140,7 +140,7 @@ void ReadCategoryList(ItemEditor& editor, const Disk& disk, std::vector<std::str
     const bool whole = list.state == FileText::State::Whole;
     std::string fault = CategoryListFault(list);
     if (!whole)
-        fault += " Deshalb gibt es nur die Auswahl \"Alles\", und neue Kategorien können nicht "
+        fault += " Deshalb gibt es nur die Auswahl „Alles“, und neue Kategorien können nicht "
                  "angelegt werden."_ansi;
     if (!fault.empty())
         faults.push_back(std::move(fault));
@@ -175,6 +175,7 @@ void ReloadItems(ItemEditor& editor, const Platform& platform) {
         editor.EditingExisting = before.EditingExisting;
         editor.lvGegenstände.toolTip = ItemName(editor.Record(row));
     }
+    editor.lvGegenstände.reveal.Show(ChosenPlace(editor));
     UpdateItemButtons(editor);
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));

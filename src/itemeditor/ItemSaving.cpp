@@ -129,12 +129,6 @@ void EndEditing(ItemEditor& editor) {
     editor.EditingExisting = false;
 }
 
-void DropRow(ItemEditor& editor, int row) {
-    DropItemRow(editor, row);
-    editor.CurrentItemRow = std::min(row, editor.ItemCount() - 1);
-    editor.lvGegenstände.toolTip.clear();
-}
-
 // Removes the current item, on disk together with `others`.
 void RemoveItemRow(ItemEditor& editor, const Platform& platform, std::vector<FileChange> others,
                    std::string_view what) {
@@ -142,7 +136,7 @@ void RemoveItemRow(ItemEditor& editor, const Platform& platform, std::vector<Fil
     if (!RebuildCategoryFiles(editor, platform, editor.HomeOf(row), {row, nullptr},
                               std::move(others), what))
         return;
-    DropRow(editor, row);
+    DropItemRow(editor, row);
     EndEditing(editor);
     UpdateItemButtons(editor);
 }
@@ -214,7 +208,6 @@ void SaveIntoView(ItemEditor& editor, const Platform& platform, int home,
     if (!RebuildCategoryFiles(editor, platform, home, {row, &record}, {}, NotSaved))
         return;
     AddItemRow(editor, row);
-    editor.CurrentItemRow = std::max(editor.CurrentItemRow, 0);
     UpdateItemButtons(editor);
     EndEditing(editor);
 }
@@ -250,6 +243,7 @@ void SaveNew(ItemEditor& editor, const Platform& platform, const ItemRecord& rec
 void SaveItem(ItemEditor& editor, const Platform& platform) {
     if (editor.cmbItemPreis.Selection() < 0) {
         platform.ShowMessage("Bitte wählt zum Preis auch eine Währung aus."_ansi);
+        platform.FocusItemUnit();
         return;
     }
     if (!editor.EditingExisting)
@@ -261,8 +255,11 @@ void SaveItem(ItemEditor& editor, const Platform& platform) {
 }
 
 void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform) {
-    if (editor.CurrentItemRow < 0)
+    if (editor.CurrentItemRow < 0) {
+        if (!editor.Items.empty())
+            platform.ShowMessage("Bitte wählt zuerst einen Gegenstand aus."_ansi);
         return;
+    }
     if (platform.AskYesNo(
             {std::string("Wollt ihr den gewählten Gegenstand wirklich löschen ?"_ansi)}))
         RemoveItemRow(editor, platform, {}, NotDeleted);

@@ -31,7 +31,9 @@ public:
         platform.disk = {SystemFiles(), InitFolders(folder)};
         platform.AskYesNo = [](const YesNoBox&) { return true; };
         platform.ShowMessage = [this](std::string_view text) { TellBox(text); };
-        platform.AskText = [this](std::string_view) { return boxes > 0 ? "" : "Neues"; };
+        platform.AskText = [this](std::string_view, std::string_view) {
+            return boxes > 0 ? "" : "Neues";
+        };
         platform.ShowSave = [](const auto& folders, std::string_view) {
             return folders / "Laden.html";
         };
@@ -41,7 +43,7 @@ public:
         platform.Browser.Print = [] { return true; };
         platform.ProcessEvents = [] { return true; };
         platform.SetWaitPointer = [](bool) {};
-        platform.FocusItemName = [] {};
+        platform.FocusItemName = platform.FocusItemUnit = [] {};
     }
 
     void Start() { StartUp(window, platform); }
