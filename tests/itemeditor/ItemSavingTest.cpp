@@ -137,8 +137,10 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     }
     World vanished(foreign, true);
     vanished.Save();
+    vanished.script.ExpectMessage("Bitte wählt zuerst"_ansi);
     vanished.Delete(); // nothing is chosen now
     vanished.Save();
+    EXPECT_EQ(vanished.editor.CurrentItemRow, -1) << "saving chooses none";
     EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
     World twins(before, true);
     twins.program.Write("Emporium/Nahkampfwaffen.dat", coat);

@@ -57,10 +57,29 @@ struct Model {
         EndEditing();
     }
 
+    std::vector<int> Order() const {
+        std::vector<int> order(rows.size());
+        std::iota(order.begin(), order.end(), 0);
+        std::stable_sort(order.begin(), order.end(), [&](int left, int right) {
+            if (descending)
+                std::swap(left, right);
+            const auto cell = [&](int row) {
+                return ItemCell(ViewOf(rows[static_cast<std::size_t>(row)].record), column);
+            };
+            return GermanLess(cell(left), cell(right));
+        });
+        return order;
+    }
+
+    // The row that takes its place on the screen is chosen then, or the last one.
     void TakeOutChosen() {
+        auto order = Order();
+        auto next = order.erase(std::find(order.begin(), order.end(), chosen));
+        if (next == order.end() && !order.empty())
+            --next;
         files[Chosen().category].erase(Stored());
         rows.erase(rows.begin() + chosen);
-        chosen = std::min(chosen, static_cast<int>(rows.size()) - 1);
+        chosen = order.empty() ? -1 : *next - (*next > chosen ? 1 : 0);
         EndEditing();
     }
 
@@ -143,13 +162,16 @@ protected:
         if (model.view.empty())
             return model.Load(home);
         model.rows.push_back({home, model.form});
-        model.chosen = std::max(model.chosen, 0);
         model.EndEditing();
     }
 
     void Delete() {
         if (model.rows.empty())
             return world.Delete();
+        if (model.chosen < 0) {
+            world.script.ExpectMessage("Bitte wählt zuerst"_ansi);
+            return world.Delete();
+        }
         const bool yes = Throw(4) > 0;
         if (yes)
             model.TakeOutChosen();
@@ -224,18 +246,9 @@ protected:
         for (const Row& row : model.rows)
             records.push_back(row.record);
         ASSERT_EQ(world.Records(), records);
-        std::vector<int> order(records.size());
-        std::iota(order.begin(), order.end(), 0);
-        std::stable_sort(order.begin(), order.end(), [&](int left, int right) {
-            if (model.descending)
-                std::swap(left, right);
-            return GermanLess(ItemCell(editor.Record(left), model.column),
-                              ItemCell(editor.Record(right), model.column));
-        });
-        ASSERT_EQ(editor.lvGegenstände.rows, order);
-
+        ASSERT_EQ(editor.lvGegenstände.rows, model.Order());
         ASSERT_EQ(editor.CurrentItemRow, model.chosen);
-        ASSERT_EQ(ChosenPlace(editor) >= 0, !model.rows.empty());
+        ASSERT_EQ(ChosenPlace(editor) >= 0, model.chosen >= 0);
         ASSERT_EQ(editor.EditingExisting, model.editing);
         ASSERT_EQ(RecordOfForm(editor), model.form);
         ASSERT_EQ(editor.cmbKategorien.Text(), model.view);

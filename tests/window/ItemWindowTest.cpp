@@ -138,8 +138,9 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
         {"U+2028 and NUL", "txtItem3", "", QString("a\u2028b") + QChar(0) + "c", "abc"},
         {"a decomposed umlaut", "txtItem0", "", "Mu\u0308hle", "Mühle"},
         {"beyond the code page", "txtItem0", "", "Ж5€", "5€"},
-        {"a number with a unit", "txtItem1", "", "-1.5,0 kg", "-1.50"},
-        {"a sign behind a digit", "txtItem2", "7", "-3", "73"},
+        {"a number with a unit", "txtItem1", "", "-1.5,0 kg", ""},
+        {"a sign behind a digit", "txtItem2", "7", "-3", "7"},
+        {"blanks around a number", "txtItem2", "", " 12,5\n", "12,5"},
         {"nothing that may enter", "txtItem2", "7", "abc", "7"},
     };
     for (const Entered& row : table) {

@@ -71,6 +71,7 @@ TEST_F(ShopWindowTest, NothingIsRemovedThatWasNotPicked) {
     AddWares();
     auto* list = driver->Find<ui::ListTable>("lvLaden");
     list->setFocus(Qt::TabFocusReason);
+    Dismiss("Bitte wählt zuerst eine Ware");
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(list->model()->rowCount(), 2);
     const QRect second = list->visualRect(list->model()->index(1, 0));
@@ -78,6 +79,13 @@ TEST_F(ShopWindowTest, NothingIsRemovedThatWasNotPicked) {
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(driver->Cell("lvLaden", 0, 0), "Ahle");
     EXPECT_EQ(list->model()->rowCount(), 1);
+    // No click takes the light from the row.
+    const QRect first = list->visualRect(list->model()->index(0, 0));
+    for (const QPoint place : {first.center(), first.center() + QPoint(0, 100)}) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        EXPECT_TRUE(list->selectionModel()->hasSelection());
+    }
 }
 
 TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
