@@ -23,8 +23,9 @@ constexpr auto Grey = CaptionFrame::Look::Grey;
 } // namespace
 
 ItemEditorPane::ItemEditorPane(QWidget* window, Session& session)
-    : QObject(window), session_(session), tab_(Named(new QTabWidget(window), "ItemTab")) {
+    : QObject(window), session_(session) {
     BuildList(window);
+    tab_ = Named(new QTabWidget(window), "ItemTab"); // behind the list, as the Tab key goes
     Place(tab_, 3240, 360, 6255, 6255);
     BuildProperties();
     BuildAvailability(session_, AddPage("Verfügbarkeit"));

@@ -41,7 +41,7 @@ private:
     LineField* BuildText(QWidget* parent, ItemText field);
 
     Session& session_;
-    QTabWidget* tab_;
+    QTabWidget* tab_ = nullptr;
     ListTable* list_ = nullptr;
     LineField* name_ = nullptr;
     ChoiceBox *categories_ = nullptr, *unit_ = nullptr;

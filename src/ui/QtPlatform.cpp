@@ -48,9 +48,9 @@ std::string AskText(QWidget& window, std::string_view prompt, std::string_view h
     dialog.setWindowTitle(ToQString(ProgramTitle));
     dialog.setLabelText(ToQString(prompt));
     dialog.setInputMode(QInputDialog::TextInput);
-    dialog.setMinimumWidth(320); // or the title bar would cut the caption off
     if (auto* field = dialog.findChild<QLineEdit*>()) {
         GuardInput(*field);
+        field->setMinimumWidth(320); // or the title bar would cut the caption off
         field->setPlaceholderText(ToQString(hint));
     }
     return dialog.exec() == QDialog::Accepted ? CleanInput(dialog.textValue()) : std::string();
