@@ -40,7 +40,7 @@ template <typename List> void ShowEntries(List& widget, const QStringList& entri
 
 void Mirror::Bind(QAbstractButton* widget, const Button& state, QWidget* refuge) {
     Bind([widget, &state, refuge] {
-        if (refuge && !state.enabled && widget->hasFocus())
+        if (refuge && !state.enabled && widget->window()->focusWidget() == widget)
             refuge->setFocus();
         widget->setEnabled(state.enabled);
         widget->setVisible(state.visible);
