@@ -57,8 +57,9 @@ void WriteCategory(benchmark::State& state) {
     const auto file = ReadCategoryFile(world.platform.disk, CategoryName(0));
     for (auto _ : state) {
         const std::string text = WithRecordAt(*file.bytes, file.records[7], World::Record(7));
-        if (WriteFile(world.platform.disk.files, CategoryPath(world.folders, CategoryName(0)),
-                      text))
+        if (!WriteFiles(world.platform.disk.files, world.folders.EmporiumFolder(),
+                        {{CategoryPath(world.folders, CategoryName(0)), text}})
+                 .stands)
             state.SkipWithError("the file was not written");
     }
 }

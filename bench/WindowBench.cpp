@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -167,10 +168,11 @@ void PrintPdf(benchmark::State& state) {
     std::ofstream(page, std::ios::binary) << document;
     for (auto _ : state) {
         ui::HtmlView view(nullptr);
-        view.Navigate(page);
+        view.Navigate(SystemFiles().read(page).bytes);
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath("shop.pdf"));
+        printer.setFullPage(true);
         if (!view.PrintTo(printer))
             state.SkipWithError("nothing was printed");
     }
@@ -179,7 +181,7 @@ void PrintPdf(benchmark::State& state) {
 const std::vector<Measurement> Measurements = {
     {"StartEmptyWindow", "", std::bind_front(Start, "empty"), true, {}},
     {"StartProgram", "StartEmptyWindow", StartProgram, true, {}},
-    {"PrintPdf", "", PrintPdf, false, {100, 3000}},
+    {"PrintPdf", "", PrintPdf, false, {100, 3000, 32767}},
     {"ChooseAlles", "",
      OnDesk([](Desk&) {}, [](Desk& d, int) { d.Choose("cmbKategorien", "Alles"); })},
     {"ClickItemHeader", "",

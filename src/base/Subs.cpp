@@ -1,6 +1,7 @@
 #include "base/Subs.h"
 
 #include "base/IniFile.h"
+#include "files/Links.h"
 
 #include <algorithm>
 #include <vector>
@@ -46,10 +47,9 @@ bool MatchesWildcards(std::u8string_view pattern, std::u8string_view name) {
     return p == pattern.size();
 }
 
-bool IsNormalFile(const fs::path& file) {
-    std::error_code unknown;
-    const fs::file_status status = StatusOf(file, unknown);
-    return unknown || (fs::is_regular_file(status) && !IsHiddenFile(file));
+bool IsNormalFile(const FileLayer& files, const fs::path& file) {
+    const FileStatus status = StatusBehindLinks(files, file);
+    return status.reason || (status.kind == FileStatus::Kind::File && !files.status(file).hidden);
 }
 
 } // namespace
@@ -59,13 +59,13 @@ std::string ReadIniValue(const FileLayer& files, const fs::path& file, std::stri
     return IniValue(files.read(file).bytes, section, key);
 }
 
-bool FileExists(const fs::path& path) {
+bool FileExists(const FileLayer& files, const fs::path& path) {
     const std::u8string pattern = path.filename().u8string();
     if (pattern.find_first_of(u8"*?") == pattern.npos)
-        return IsNormalFile(path);
-    const std::vector<fs::path> entries = EntriesOf(path.parent_path());
-    return std::any_of(entries.begin(), entries.end(), [&pattern](const fs::path& entry) {
-        return MatchesWildcards(pattern, entry.filename().u8string()) && IsNormalFile(entry);
+        return IsNormalFile(files, path);
+    const std::vector<fs::path> entries = files.entries(path.parent_path());
+    return std::any_of(entries.begin(), entries.end(), [&](const fs::path& entry) {
+        return MatchesWildcards(pattern, entry.filename().u8string()) && IsNormalFile(files, entry);
     });
 }
 

@@ -17,6 +17,6 @@ std::string ReadIniValue(const FileLayer& files, const std::filesystem::path& fi
 /// True if the path names a file that is neither hidden nor a folder, or if the system can't tell:
 /// reading it then says why. The name may hold the wildcards "*" and "?"; one matching file is
 /// enough then.
-bool FileExists(const std::filesystem::path& path);
+bool FileExists(const FileLayer& files, const std::filesystem::path& path);
 
 } // namespace emporium

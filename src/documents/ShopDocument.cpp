@@ -66,6 +66,7 @@ void WriteShopPrint(const ShopEditor& shop, std::string& document) {
 }
 
 void ExportShop(const ShopEditor& shop, const Platform& platform) {
+    platform.disk.files.createFolder(platform.disk.folders.HtmlFolder);
     const auto target =
         platform.ShowSave(platform.disk.folders.HtmlFolder, "HTML-Dateien (*.html)|*.html");
     if (target.empty())
@@ -73,7 +74,7 @@ void ExportShop(const ShopEditor& shop, const Platform& platform) {
     platform.SetWaitPointer(true);
     std::string document;
     WriteShopExport(shop, document);
-    const auto failure = WriteFile(platform.disk.files, target, std::move(document));
+    const auto failure = WriteDocument(platform.disk.files, target, document);
     platform.SetWaitPointer(false);
     if (failure) {
         platform.ShowMessage(FailureText("Der Shop konnte nicht gespeichert werden.", *failure));

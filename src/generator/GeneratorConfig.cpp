@@ -34,7 +34,7 @@ std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string
 }
 
 IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
-                        std::vector<std::string>& faults) {
+                          std::vector<std::string>& faults) {
     return {ReadConfigFile(disk, "ShopgeneratorConfig.dat", faults).bytes, shopType};
 }
 

@@ -19,7 +19,7 @@ std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string
 /// What the configuration tells of a type; nothing if it can't be read, which is added to
 /// `faults`.
 IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
-                        std::vector<std::string>& faults);
+                          std::vector<std::string>& faults);
 
 /// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing
 /// if the file does not tell it or tells no number.

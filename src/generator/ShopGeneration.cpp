@@ -66,7 +66,7 @@ public:
 private:
     std::string Read(const std::string& name) {
         const auto file = CategoryPath(disk_.folders, name);
-        if (!IsPlainName(name) || !FileExists(file))
+        if (!IsPlainName(name) || !FileExists(disk_.files, file))
             return {};
         FileText category = disk_.files.read(file);
         if (category.state == FileText::State::Unreadable)

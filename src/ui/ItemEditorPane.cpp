@@ -1,6 +1,7 @@
 #include "ui/ItemEditorPane.h"
 
 #include "documents/ItemListDocument.h"
+#include "itemeditor/CategoryCare.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
