@@ -64,6 +64,18 @@ private:
     int selection_ = -1;
 };
 
+/// The row that a list view scrolls to: one that has just been chosen, added or moved. Whatever
+/// else changes leaves the list where the user has it.
+struct ListReveal {
+    int row = -1;
+    unsigned count = 0; // grows with every row to be shown
+
+    void Show(int shown) {
+        row = shown;
+        ++count;
+    }
+};
+
 /// How a list view orders its rows. One direction serves all columns.
 struct ListSort {
     int column = 0;

@@ -35,8 +35,9 @@ struct Platform {
     /// A message with an exclamation mark and an OK button, captioned with ProgramTitle.
     std::function<void(std::string_view text)> ShowMessage;
 
-    /// A line of text; empty if the box was cancelled. Captioned with ProgramTitle.
-    std::function<std::string(std::string_view prompt)> AskText;
+    /// A line of text; empty if the box was cancelled. Captioned with ProgramTitle. The hint stands
+    /// in the empty field and is no answer.
+    std::function<std::string(std::string_view prompt, std::string_view hint)> AskText;
 
     /// A file to save to, empty if the dialog was cancelled. The dialog itself asks before an
     /// existing file is chosen. The filter is a caption and a pattern with "|" between them.
@@ -74,6 +75,9 @@ struct Platform {
 
     /// Puts the keyboard focus on the item form's name field, if that is on screen.
     std::function<void()> FocusItemName;
+
+    /// Puts the keyboard focus on the item form's list of units, if that is on screen.
+    std::function<void()> FocusItemUnit;
 };
 
 } // namespace emporium

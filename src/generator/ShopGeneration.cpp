@@ -154,6 +154,8 @@ void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform
     dialog.open = false;
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));
+    if (const std::string unclear = UnclearPricesText(shop); !unclear.empty())
+        platform.ShowMessage(unclear);
 }
 
 } // namespace emporium

@@ -25,7 +25,7 @@ bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const Die& R
 /// Fills the emptied shop from the dialog's choices, of which type, prices and quality must have
 /// been made, and the region if it counts (see UpdateStartButton). Hands the choices over to the
 /// shop's fields and closes the dialog. Categories without a file are passed over; what can't be
-/// read, and a shop that is full, is told in one box.
+/// read, and a shop that is full, is told in one box, unclear prices in another.
 void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform);
 
 } // namespace emporium

@@ -51,6 +51,10 @@ void SelectRegion(ItemEditor& editor, const Platform& platform, int index) {
     ShowRegionName(editor, platform, editor.lstRegionen.Text());
 }
 
+void SelectAvailableRegion(ItemEditor& editor, int index) {
+    editor.lstVerfügbar.Select(index);
+}
+
 void ShowAvailability(ItemEditor& editor, const Platform& platform, std::string_view availability) {
     ReturnAllRegions(editor);
     auto pieces = AvailabilityCodes(availability);

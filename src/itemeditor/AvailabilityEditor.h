@@ -19,6 +19,9 @@ void ReturnAllRegions(ItemEditor& editor);
 /// The selection in lstRegionen: the label below takes the region's long name.
 void SelectRegion(ItemEditor& editor, const Platform& platform, int index);
 
+/// The selection in lstVerfügbar.
+void SelectAvailableRegion(ItemEditor& editor, int index);
+
 /// Sets the lists to an availability string. Pieces that are no region are passed over.
 void ShowAvailability(ItemEditor& editor, const Platform& platform, std::string_view availability);
 

@@ -144,7 +144,7 @@ void NewCategory(ItemEditor& editor, const Platform& platform) {
         return;
     for (bool askAgain = true; askAgain;) {
         askAgain = false;
-        const std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.");
+        const std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.", {});
         if (name.empty())
             return;
         const Attempt attempt = Create(platform.disk, name, askAgain);

@@ -130,6 +130,7 @@ void ReloadItems(ItemEditor& editor, const Platform& platform) {
         editor.EditingExisting = before.EditingExisting;
         editor.lvGegenstände.toolTip = ItemName(editor.Record(row));
     }
+    editor.lvGegenstände.reveal.Show(ChosenPlace(editor));
     UpdateItemButtons(editor);
     if (!faults.empty())
         platform.ShowMessage(FaultsText(faults));

@@ -34,6 +34,7 @@ struct ItemListView {
     std::string toolTip;
     bool visible = false;
     unsigned revision = 0; // grows with every change of what the rows show
+    ListReveal reveal;
 };
 
 struct ItemEditor {

@@ -2,6 +2,7 @@
 
 #include "itemeditor/AvailabilityEditor.h"
 #include "regions/Availability.h"
+#include "text/Ansi.h"
 
 namespace emporium {
 
@@ -59,6 +60,14 @@ void EditItemText(ItemEditor& editor, ItemText field, std::string text) {
     UpdateSaveAvailability(editor);
 }
 
+void ChooseItemCategory(ItemEditor& editor, int index) {
+    editor.cmbItemKategorien.Select(index);
+}
+
+void ChooseItemUnit(ItemEditor& editor, int index) {
+    editor.cmbItemPreis.Select(index);
+}
+
 void ChooseItemWert(ItemEditor& editor, int index) {
     editor.cmbItemWert.Select(index);
     UpdateSaveAvailability(editor);
@@ -87,15 +96,15 @@ bool FilterItemKey(ItemText field, char character, std::string_view text, std::s
 
 std::string FilterItemPaste(ItemText field, std::string_view pasted, std::string text,
                             std::size_t caret, std::size_t replaced) {
-    std::string entered;
-    for (const char character : pasted) {
+    const std::string_view entered =
+        field == WeightText || field == PriceText ? Trim(pasted) : pasted;
+    for (const char character : entered) {
         if (!FilterItemKey(field, character, text, caret))
-            continue;
-        entered += character;
+            return {};
         text.replace(caret++, replaced, 1, character);
         replaced = 0;
     }
-    return entered;
+    return std::string(entered);
 }
 
 ItemRecord RecordOfForm(const ItemEditor& editor) {

@@ -24,6 +24,12 @@ void StartNewItem(ItemEditor& editor, const Platform& platform);
 /// The user has changed a text field.
 void EditItemText(ItemEditor& editor, ItemText field, std::string text);
 
+/// The user picks the category that a new item goes to, or an item moves to.
+void ChooseItemCategory(ItemEditor& editor, int index);
+
+/// The user picks a unit of the price.
+void ChooseItemUnit(ItemEditor& editor, int index);
+
 /// The user picks a Wert.
 void ChooseItemWert(ItemEditor& editor, int index);
 
@@ -35,8 +41,9 @@ void UpdateSaveAvailability(ItemEditor& editor);
 /// field's text before, `caret` the place of the caret or the start of the selection, from 0.
 bool FilterItemKey(ItemText field, char character, std::string_view text, std::size_t caret);
 
-/// What of a pasted text enters the field, one character after the other; the first one replaces
-/// the `replaced` characters from the caret on.
+/// What of a pasted text enters the field: all of it or nothing, for a number that loses characters
+/// becomes another one. Blanks around a number are dropped first. The first character replaces the
+/// `replaced` ones from the caret on.
 std::string FilterItemPaste(ItemText field, std::string_view pasted, std::string text,
                             std::size_t caret, std::size_t replaced);
 

@@ -17,19 +17,13 @@ void EndEditing(ItemEditor& editor) {
     editor.EditingExisting = false;
 }
 
-void DropRow(ItemEditor& editor, int row) {
-    DropItemRow(editor, row);
-    editor.CurrentItemRow = std::min(row, editor.ItemCount() - 1);
-    editor.lvGegenstände.toolTip.clear();
-}
-
 // Removes the current item, on disk together with what `more` adds.
 void RemoveItemRow(ItemEditor& editor, const Platform& platform, const WriteWording& words,
                    const MoreChanges& more = {}) {
     const int row = editor.CurrentItemRow;
     if (!WriteRow(editor, platform, editor.HomeOf(row), {row, nullptr}, words, more))
         return;
-    DropRow(editor, row);
+    DropItemRow(editor, row);
     EndEditing(editor);
     UpdateItemButtons(editor);
 }
@@ -83,7 +77,6 @@ void SaveIntoView(ItemEditor& editor, const Platform& platform, int home,
     if (!WriteRow(editor, platform, home, {row, &record}, SavingWords))
         return;
     AddItemRow(editor, row);
-    editor.CurrentItemRow = std::max(editor.CurrentItemRow, 0);
     UpdateItemButtons(editor);
     EndEditing(editor);
 }
@@ -133,6 +126,7 @@ void SaveNew(ItemEditor& editor, const Platform& platform, const ItemRecord& rec
 void SaveItem(ItemEditor& editor, const Platform& platform) {
     if (editor.cmbItemPreis.Selection() < 0) {
         platform.ShowMessage("Bitte wählt zum Preis auch eine Währung aus."_ansi);
+        platform.FocusItemUnit();
         return;
     }
     if (!editor.EditingExisting)
@@ -144,8 +138,11 @@ void SaveItem(ItemEditor& editor, const Platform& platform) {
 }
 
 void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform) {
-    if (editor.CurrentItemRow < 0)
+    if (editor.CurrentItemRow < 0) {
+        if (!editor.Items.empty())
+            platform.ShowMessage("Bitte wählt zuerst einen Gegenstand aus."_ansi);
         return;
+    }
     if (platform.AskYesNo(
             {std::string("Wollt ihr den gewählten Gegenstand wirklich löschen ?"_ansi)}))
         RemoveItemRow(editor, platform, DeletingWords);

@@ -13,7 +13,7 @@ namespace emporium {
 /// chosen, or if a new item has no category to go to.
 void SaveItem(ItemEditor& editor, const Platform& platform);
 
-/// Deletes the chosen item, after a question. Nothing happens if none is chosen.
+/// Deletes the chosen item, after a question. If none is chosen, a box says so.
 void ConfirmDeleteItem(ItemEditor& editor, const Platform& platform);
 
 } // namespace emporium

@@ -3,6 +3,7 @@
 #include "ui/MainWindow.h"
 
 int main(int argc, char** argv) {
+    emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
     emporium::ui::MainWindow window(emporium::RunningProgramFolder());

@@ -13,6 +13,7 @@ ShopEditor::ShopEditor()
       cmbShopQualität(ChoiceList::Order::AsAdded, {Qualities.begin(), Qualities.end()}) {
     cmdShopAnzahl.enabled = cmdShopDelete.enabled = false;
     cmdGenName.enabled = false;
+    cmbRasse.toolTip = "Volk des Besitzers";
     cmbShopPreise.enabled = false;
 }
 

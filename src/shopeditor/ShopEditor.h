@@ -23,6 +23,7 @@ struct ShopRow {
     std::string_view Unit;         // the letter of the price, empty if the item has no price
     std::string_view ShopAvailability;
     std::int16_t ShopBasePrice = 0; // whole, without unit and price level
+    bool hasBasePrice = true;       // false if the item's price is no number of 16 bits
 
     std::string Price;        // as shown: a number and the unit
     std::string WithQuantity; // as shown once a quantity was given, else empty: see ShopCell
@@ -36,12 +37,14 @@ struct ShopListView {
     int current = -1; // -1 for none
     std::string toolTip;
     unsigned revision = 0; // grows with every change of what the rows show
+    ListReveal reveal;
 };
 
 struct ShopEditor {
     ShopEditor();
 
     ShopListView lvLaden;
+    std::vector<ShopRow> removed; // from this shop, the last one last
     Button cmdShopAnzahl, cmdShopDelete;
 
     TextField txtName, txtShopart, txtBesitzerName;

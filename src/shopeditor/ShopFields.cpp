@@ -10,6 +10,14 @@ void ChooseShopRegion(ShopEditor& shop, const Platform& platform, int index) {
     shop.cmbShopRegion.toolTip = RegionDescription(platform.disk, shop.cmbShopRegion.Text());
 }
 
+void EditShopText(TextField& field, std::string text) {
+    field.text = std::move(text);
+}
+
+void ChooseShopQuality(ShopEditor& shop, int index) {
+    shop.cmbShopQualität.Select(index);
+}
+
 void ChooseRace(ShopEditor& shop, int index) {
     shop.cmbRasse.Select(index);
     shop.cmdGenName.enabled = !shop.cmbRasse.Text().empty();

@@ -10,6 +10,12 @@ namespace emporium {
 /// A choice in cmbShopRegion: the list's tool tip tells the region's long name.
 void ChooseShopRegion(ShopEditor& shop, const Platform& platform, int index);
 
+/// The user types into one of the shop's text fields.
+void EditShopText(TextField& field, std::string text);
+
+/// A choice in cmbShopQualität.
+void ChooseShopQuality(ShopEditor& shop, int index);
+
 /// A choice in cmbRasse: with a race a name can be drawn.
 void ChooseRace(ShopEditor& shop, int index);
 

@@ -4,6 +4,7 @@
 #include "text/GermanOrder.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace emporium {
 
@@ -28,13 +29,35 @@ Rows::iterator SortedPlace(ShopListView& list, const ShopRow& row) {
 // Has a row whose text changed in a column take its sorted place.
 void PlaceCurrentRow(ShopListView& list, int column) {
     ++list.revision;
-    if (list.sort.column != column)
+    if (list.sort.column != column) {
+        list.reveal.Show(list.current);
         return;
+    }
     auto row = std::move(list.rows[static_cast<std::size_t>(list.current)]);
     list.rows.erase(list.rows.begin() + list.current);
     const auto place = SortedPlace(list, row);
     list.current = static_cast<int>(place - list.rows.begin());
     list.rows.insert(place, std::move(row));
+    list.reveal.Show(list.current);
+}
+
+// The current row; null, after a box, if there are rows and none is current.
+ShopRow* DemandCurrentRow(ShopEditor& shop, const Platform& platform) {
+    ShopRow* row = CurrentRow(shop);
+    if (!row && shop.ShopCount() > 0)
+        platform.ShowMessage("Bitte wählt zuerst eine Ware im Shop aus."_ansi);
+    return row;
+}
+
+// What stands behind the name, without the brackets; a ware without a quantity is there once.
+std::string QuantityOf(const ShopRow& row) {
+    const std::string_view name = WithoutLast(row.ShopItemLine);
+    const std::string_view shown = ShopCell(row, ShopTextColumn);
+    constexpr std::size_t opening = 3, closing = 1;
+    return shown.size() < name.size() + opening + closing
+               ? "1"
+               : std::string(shown.substr(name.size() + opening,
+                                          shown.size() - name.size() - opening - closing));
 }
 
 } // namespace
@@ -48,7 +71,9 @@ ShopRow MakeShopRow(const RecordView& record, SharedText bytes) {
     row.Weight = record[WeightField];
     row.Unit = price.substr(number.size());
     row.ShopAvailability = record[AvailabilityField];
-    row.ShopBasePrice = RoundToInt16(ReadGermanNumber(number).value_or(0));
+    const auto base = ReadGermanNumber(number);
+    row.ShopBasePrice = RoundToInt16(base.value_or(0));
+    row.hasBasePrice = base && std::abs(*base - row.ShopBasePrice) < 1;
     row.Price = price;
     return row;
 }
@@ -69,6 +94,7 @@ void AddShopRow(ShopEditor& shop, ShopRow row) {
     const auto place = SortedPlace(list, row);
     if (place - list.rows.begin() <= list.current)
         ++list.current;
+    list.reveal.Show(static_cast<int>(place - list.rows.begin()));
     list.rows.insert(place, std::move(row));
     ++list.revision;
 }
@@ -78,8 +104,11 @@ bool ShopIsFull(const ShopEditor& shop) {
 }
 
 void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& platform) {
-    if (items.CurrentItemRow < 0)
+    if (items.CurrentItemRow < 0) {
+        if (!items.Items.empty())
+            platform.ShowMessage("Bitte wählt zuerst einen Gegenstand aus."_ansi);
         return;
+    }
     if (ShopIsFull(shop)) {
         platform.ShowMessage(ShopFullText);
         return;
@@ -88,34 +117,42 @@ void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& pl
     UpdateShopButtons(shop);
 }
 
-void RemoveShopRow(ShopEditor& shop) {
+void RemoveShopRow(ShopEditor& shop, const Platform& platform) {
     auto& list = shop.lvLaden;
-    if (list.current < 0)
+    ShopRow* row = DemandCurrentRow(shop, platform);
+    if (!row)
         return;
+    shop.removed.push_back(std::move(*row));
     list.rows.erase(list.rows.begin() + list.current);
     list.current = std::min(list.current, shop.ShopCount() - 1);
     list.toolTip.clear();
+    list.reveal.Show(list.current);
     ++list.revision;
     UpdateShopButtons(shop);
 }
 
 void SetShopRowQuantity(ShopEditor& shop, const Platform& platform) {
-    if (!CurrentRow(shop))
+    ShopRow* row = DemandCurrentRow(shop, platform);
+    if (!row)
         return;
     const std::string answer = platform.AskText("Bitte gebt eine Zahl an, wie oft der Gegenstand "
-                                                "im Shop vorhanden sein soll.");
-    ShopRow* row = CurrentRow(shop);
+                                                "im Shop vorhanden sein soll.",
+                                                "bisher " + QuantityOf(*row));
+    row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
     row->WithQuantity = std::string(WithoutLast(row->ShopItemLine)) + " (x" + answer + ")";
+    shop.lvLaden.toolTip = row->WithQuantity;
     PlaceCurrentRow(shop.lvLaden, ShopTextColumn);
 }
 
 void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
-    if (!CurrentRow(shop))
+    ShopRow* row = DemandCurrentRow(shop, platform);
+    if (!row)
         return;
-    const std::string answer = platform.AskText("Bitte gebt den neuen Preis ein.");
-    ShopRow* row = CurrentRow(shop);
+    const std::string answer =
+        platform.AskText("Bitte gebt den neuen Preis ein.", "bisher " + row->Price);
+    row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
     row->Price = std::string(answer).append(row->Unit);
@@ -131,6 +168,7 @@ void ChooseShopRow(ShopEditor& shop, int row) {
 void ClearShop(ShopEditor& shop) {
     auto& list = shop.lvLaden;
     list.rows.clear();
+    shop.removed.clear();
     list.current = -1;
     list.toolTip.clear();
     ++list.revision;

@@ -1,6 +1,6 @@
 // The wares of the shop: adding, removing, giving a quantity or a price by hand, and the order of
 // the list, which is also the order in the documents. "The current row" is the one that the user
-// has picked; without one the row operations do nothing.
+// has picked; without one the row operations say in a box that one is to be picked.
 #pragma once
 
 #include "base/Platform.h"
@@ -29,8 +29,9 @@ inline constexpr std::string_view ShopFullText =
 /// cmdItemHin: adds the chosen item, or says in a box that the shop is full.
 void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& platform);
 
-/// Removes the current row. The one that takes its place is current then, or the last one.
-void RemoveShopRow(ShopEditor& shop);
+/// Removes the current row. The one that takes its place is current then, or the last one; the
+/// removed one can be recovered, see ShopRecovery.
+void RemoveShopRow(ShopEditor& shop, const Platform& platform);
 
 /// Asks for a number and writes it behind the ware's name, in place of an earlier one.
 void SetShopRowQuantity(ShopEditor& shop, const Platform& platform);

@@ -26,6 +26,30 @@ void ChoosePriceLevel(ShopEditor& shop, int index) {
     ApplyPriceLevel(shop);
 }
 
+void PickPriceLevel(ShopEditor& shop, const Platform& platform, int index) {
+    ChoosePriceLevel(shop, index);
+    const std::string text = UnclearPricesText(shop);
+    if (index >= 0 && !text.empty())
+        platform.ShowMessage(text);
+}
+
+std::string UnclearPricesText(const ShopEditor& shop) {
+    constexpr int named = 5;
+    int found = 0;
+    std::string text;
+    for (const ShopRow& row : shop.lvLaden.rows)
+        if (!row.hasBasePrice && ++found <= named)
+            text.append("\n").append(ShopCell(row, ShopTextColumn)) += ": " + row.Price;
+    if (found == 0)
+        return {};
+    if (found > named)
+        text += "\nund " + std::to_string(found - named) + " weitere";
+    return std::string("Diese Waren haben einen Preis, mit dem sich nicht rechnen lässt: Er ist "
+                       "keine Zahl oder zu groß. Jetzt steht bei ihnen 0 oder der größte Wert, der "
+                       "möglich ist. Prüft sie, bevor ihr druckt.\n"_ansi) +
+           text;
+}
+
 void ApplyPriceLevel(ShopEditor& shop) {
     const int level = shop.cmbShopPreise.Selection();
     if (level < 0)

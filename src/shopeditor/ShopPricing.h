@@ -1,6 +1,7 @@
 // The price level of the shop, and what it makes of the wares' prices.
 #pragma once
 
+#include "base/Platform.h"
 #include "shopeditor/ShopEditor.h"
 
 #include <cstdint>
@@ -14,6 +15,13 @@ std::string LevelPriceText(std::int16_t basePrice, int level);
 /// A choice in cmbShopPreise, by the user or by the generator, also of the entry that is chosen
 /// already.
 void ChoosePriceLevel(ShopEditor& shop, int index);
+
+/// The user picks a level. A box names the wares that it can't price, see UnclearPricesText.
+void PickPriceLevel(ShopEditor& shop, const Platform& platform, int index);
+
+/// Names up to five wares whose item has a price that is no number or beyond 16 bits: a level sets
+/// them to 0 or the limit. Empty if there is none.
+std::string UnclearPricesText(const ShopEditor& shop);
 
 /// Prices every ware from its base price at the chosen level. Without a level nothing changes.
 void ApplyPriceLevel(ShopEditor& shop);

@@ -2,13 +2,13 @@
 
 #include "base/Variablen.h"
 #include "ui/Text.h"
+#include "ui/WindowStyle.h"
 
 #include <QFont>
 #include <QIcon>
 #include <QLocale>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTranslator>
 
 namespace emporium::ui {
@@ -45,6 +45,10 @@ QFont WindowFont() {
 
 } // namespace
 
+void PrepareApplication() {
+    QApplication::setDesktopSettingsAware(false);
+}
+
 void SetUpApplication(QApplication& application) {
     // No display name: the desktop would append it to the window's caption.
     QApplication::setApplicationName(ToQString(ProgramTitle));
@@ -57,7 +61,7 @@ void SetUpApplication(QApplication& application) {
         QApplication::installTranslator(translator);
 
     if (!QApplication::style()->objectName().startsWith("windows")) {
-        QApplication::setStyle(QStyleFactory::create("Fusion"));
+        QApplication::setStyle(new WindowStyle);
         // A desktop's own file dialog would speak the desktop's language.
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }

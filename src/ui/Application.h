@@ -6,6 +6,9 @@
 
 namespace emporium::ui {
 
+/// Before the application exists: a desktop's own fonts and colours do not reach in.
+void PrepareApplication();
+
 void SetUpApplication(QApplication& application);
 
 } // namespace emporium::ui

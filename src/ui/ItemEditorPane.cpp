@@ -1,18 +1,18 @@
 #include "ui/ItemEditorPane.h"
 
 #include "documents/ItemListDocument.h"
-#include "itemeditor/AvailabilityEditor.h"
 #include "itemeditor/CategoryCare.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "shopeditor/ShopList.h"
+#include "ui/AvailabilityPage.h"
 #include "ui/Build.h"
+#include "ui/ListMenu.h"
 #include "ui/Pictures.h"
 #include "ui/Text.h"
 
 #include <QLabel>
-#include <QListWidget>
 
 namespace emporium::ui {
 
@@ -24,22 +24,21 @@ constexpr auto Grey = CaptionFrame::Look::Grey;
 } // namespace
 
 ItemEditorPane::ItemEditorPane(QWidget* window, Session& session)
-    : QObject(window), session_(session), tab_(Named(new QTabWidget(window), "ItemTab")) {
+    : QObject(window), session_(session) {
     BuildList(window);
+    tab_ = Named(new QTabWidget(window), "ItemTab"); // behind the list, as the Tab key goes
     Place(tab_, 3240, 360, 6255, 6255);
     BuildProperties();
-    BuildAvailability();
+    BuildAvailability(session_, AddPage("Verfügbarkeit"));
     BuildNotice();
     session_.mirror.Bind(tab_, [this] { return session_.state.mode == Mode::ItemEditor; });
 }
 
 void ItemEditorPane::BuildList(QWidget* window) {
-    auto& state = session_.state;
-    auto& items = state.items;
+    auto& items = session_.state.items;
     auto* frame = Place(Named(new CaptionFrame(window, Black, "Gegenstände"), "frmGegenstände"), 0,
                         480, 3135, 5895);
     BuildCategories(frame);
-
     const TableSource source{[&items] { return static_cast<int>(items.lvGegenstände.rows.size()); },
                              [&items](int row, int column) {
                                  const auto& rows = items.lvGegenstände.rows;
@@ -56,19 +55,37 @@ void ItemEditorPane::BuildList(QWidget* window) {
         const auto& view = items.lvGegenstände;
         list_->setVisible(view.visible);
         list_->setToolTip(ToToolTip(view.toolTip));
-        list_->Mirror(view.revision, ChosenPlace(items), view.sort.column, view.sort.descending);
+        list_->Mirror(view.revision, ChosenPlace(items), view.sort, view.reveal);
     });
+    ConnectList();
+    BuildItemButtons(frame);
+    BuildAdd(window);
+}
+
+void ItemEditorPane::ConnectList() {
+    auto& items = session_.state.items;
+    auto& shop = session_.state.shop;
+    const auto& platform = session_.platform;
     connect(list_, &ListTable::rowChosen, this, [&](int row) {
         session_.Do([&] {
-            ChooseItemRow(items, session_.platform,
-                          items.lvGegenstände.rows[static_cast<std::size_t>(row)]);
+            ChooseItemRow(items, platform, items.lvGegenstände.rows[static_cast<std::size_t>(row)]);
         });
     });
     connect(list_, &ListTable::headerClicked, this,
             [&](int column) { session_.Do([&] { SortItemList(items, column); }); });
     connect(list_, &ListTable::deletePressed, this,
-            [&] { session_.Do([&] { ConfirmDeleteItem(items, session_.platform); }); });
+            [&] { session_.Do([&] { ConfirmDeleteItem(items, platform); }); });
+    AddListMenu(session_, *list_, [&]() -> std::vector<MenuEntry> {
+        return {
+            {"In den Shop legen", items.cmdItemHin.visible && items.cmdItemHin.enabled,
+             [&] { AddItemToShop(shop, items, platform); }},
+            {"Löschen …", items.cmdItemDelete.enabled, [&] { ConfirmDeleteItem(items, platform); }},
+            CopyEntry(*list_)};
+    });
+}
 
+void ItemEditorPane::BuildItemButtons(QWidget* frame) {
+    auto& items = session_.state.items;
     itemNew_ = BuildButton(session_, frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen",
                            "+", [&] { StartNewItem(items, session_.platform); });
     itemDelete_ =
@@ -77,15 +94,20 @@ void ItemEditorPane::BuildList(QWidget* window) {
     itemSave_ = BuildButton(session_, frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓",
                             [&] { SaveItem(items, session_.platform); });
     session_.mirror.Bind(itemNew_, items.cmdItemNeu);
-    session_.mirror.Bind(itemDelete_, items.cmdItemDelete);
-    session_.mirror.Bind(itemSave_, items.cmdItemSave);
+    session_.mirror.Bind(itemDelete_, items.cmdItemDelete, list_);
+    session_.mirror.Bind(itemSave_, items.cmdItemSave, list_);
+}
 
+void ItemEditorPane::BuildAdd(QWidget* window) {
+    auto& state = session_.state;
     auto* add = Place(Named(new QPushButton(">", window), "cmdItemHin"), 3240, 2160, 495, 3615);
     add->setToolTip("Gegenstand dem Shopangebot hinzufügen");
     add->setAccessibleName(add->toolTip());
-    session_.mirror.Bind(add, items.cmdItemHin);
-    connect(add, &QPushButton::clicked, this,
-            [&] { session_.Do([&] { AddItemToShop(state.shop, items, session_.platform); }); });
+    add->setAutoDefault(true);
+    session_.mirror.Bind(add, state.items.cmdItemHin);
+    connect(add, &QPushButton::clicked, this, [&] {
+        session_.Do([&] { AddItemToShop(state.shop, state.items, session_.platform); });
+    });
 }
 
 void ItemEditorPane::BuildCategories(QWidget* parent) {
@@ -94,9 +116,10 @@ void ItemEditorPane::BuildCategories(QWidget* parent) {
     auto* frame =
         Place(Named(new CaptionFrame(parent, Black, "Kategorien"), "Frame5"), 120, 360, 2895, 1095);
     const auto choose = [&](int index) { ChooseCategory(items, session_.platform, index); };
-    Place(BuildChoice(session_, frame, "cmbKategorien", "Kategorie der Liste", items.cmbKategorien,
-                      choose),
-          120, 240, 2655, 315);
+    categories_ = Place(BuildChoice(session_, frame, "cmbKategorien", "Kategorie der Liste",
+                                    items.cmbKategorien, choose),
+                        120, 240, 2655, 315);
+    categories_->setPlaceholderText("Kategorie wählen …");
 
     categoryNew_ =
         BuildButton(session_, frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
@@ -154,16 +177,17 @@ void ItemEditorPane::BuildProperties() {
 
     Place(BuildChoice(session_, frame("Frame6", "Kategorie", 105, 810, wide), "cmbItemKategorien",
                       "Kategorie des Gegenstands", items.cmbItemKategorien,
-                      [&](int index) { items.cmbItemKategorien.Select(index); }),
+                      [&](int index) { ChooseItemCategory(items, index); }),
           120, 210, inner, 315);
 
     Place(BuildText(frame("Frame7", "Gewicht", 105, 1500, 1800), WeightText), 120, 210, 1560, 315);
 
     auto* prices = frame("Frame8", "Preis", 2010, 1500, wide - 1905);
     Place(BuildText(prices, PriceText), 120, 210, 1560, 315);
-    Place(BuildChoice(session_, prices, "cmbItemPreis", "Währung", items.cmbItemPreis,
-                      [&](int index) { items.cmbItemPreis.Select(index); }),
-          1800, 210, 2130, 315);
+    unit_ = Place(BuildChoice(session_, prices, "cmbItemPreis", "Währung", items.cmbItemPreis,
+                              [&](int index) { ChooseItemUnit(items, index); }),
+                  1800, 210, 2130, 315);
+    unit_->setPlaceholderText("Währung …");
 
     Place(BuildChoice(session_, frame("Frame9", "Wert", 105, 2190, wide), "cmbItemWert", "Wert",
                       items.cmbItemWert, [&](int index) { ChooseItemWert(items, index); }),
@@ -174,46 +198,6 @@ void ItemEditorPane::BuildProperties() {
 
     picture_ = Place(Named(new Picture(page), "imgItem"), 105, 3630, wide, 2130);
     picture_->setAccessibleName("Blick in einen Laden");
-}
-
-void ItemEditorPane::BuildAvailability() {
-    auto& state = session_.state;
-    auto& items = state.items;
-    QWidget* page = AddPage("Verfügbarkeit");
-    const auto list = [page](const char* frameName, const QString& caption, int left,
-                             const char* name, int height) {
-        auto* frame =
-            Place(Named(new CaptionFrame(page, Grey, caption), frameName), left, 120, 2400, 5640);
-        auto* box = Place(Named(new QListWidget(frame), name), 120, 270, 2160, height);
-        box->setAccessibleName(caption);
-        return box;
-    };
-    auto* others = list("Frame3", "Regionen", 105, "lstRegionen", 4245);
-    auto* chosen = list("Frame4", "Wird hergestellt in", 3660, "lstVerfügbar", 5220);
-    session_.mirror.Bind(others, items.lstRegionen);
-    session_.mirror.Bind(chosen, items.lstVerfügbar);
-    connect(others, &QListWidget::currentRowChanged, this,
-            [&](int row) { session_.Do([&] { SelectRegion(items, session_.platform, row); }); });
-    connect(chosen, &QListWidget::currentRowChanged, this,
-            [&](int row) { session_.Do([&] { items.lstVerfügbar.Select(row); }); });
-
-    Place(BuildRegionName(session_, others->parentWidget(), items.lblRegionen), 120, 4560, 2160,
-          960);
-
-    const auto move = [&](const char* objectName, const QString& caption, const QString& meaning,
-                          int top, std::function<void()> operation) {
-        auto* button =
-            Place(Named(new QPushButton(caption, page), objectName), 2610, top, 945, 375);
-        button->setAccessibleName(meaning);
-        connect(button, &QPushButton::clicked, this,
-                [this, operation = std::move(operation)] { session_.Do(operation); });
-    };
-    move("cmdHin", ">", "Region hinzufügen", 1350, [&] { MoveRegionIn(items); });
-    move("cmdZurück", "<", "Region wegnehmen", 1800, [&] { MoveRegionOut(items); });
-    move("cmdAlleHin", ">>>>>", "Alle Regionen hinzufügen", 2700,
-         [&] { MoveAllRegionsIn(items, session_.platform); });
-    move("cmdAlleZurück", "<<<<<", "Alle Regionen wegnehmen", 3150,
-         [&] { ReturnAllRegions(items); });
 }
 
 void ItemEditorPane::BuildNotice() {
@@ -242,6 +226,17 @@ void ItemEditorPane::LoadPictures() {
     itemSave_->SetPicture(LoadPicture(gfx / "save.bmp"));
     print_->SetPicture(LoadPicture(gfx / "Printfld.bmp"));
     picture_->SetImage(LoadPictureFor(gfx / "shop.jpg", picture_->size()));
+}
+
+void ItemEditorPane::FocusCategories() {
+    categories_->setFocus();
+}
+
+void ItemEditorPane::FocusUnit() {
+    if (session_.state.mode != Mode::ItemEditor)
+        return;
+    tab_->setCurrentIndex(0);
+    unit_->setFocus();
 }
 
 void ItemEditorPane::FocusName() {

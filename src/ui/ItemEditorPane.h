@@ -23,19 +23,28 @@ public:
     /// Puts the focus on the name of the form, if that is on screen.
     void FocusName();
 
+    /// Puts the focus on the list of units, if that is on screen.
+    void FocusUnit();
+
+    /// Puts the focus on the list of categories.
+    void FocusCategories();
+
 private:
     void BuildList(QWidget* window);
+    void ConnectList();
+    void BuildItemButtons(QWidget* frame);
+    void BuildAdd(QWidget* window);
     void BuildCategories(QWidget* parent);
     QWidget* AddPage(const QString& caption);
     void BuildProperties();
-    void BuildAvailability();
     void BuildNotice();
     LineField* BuildText(QWidget* parent, ItemText field);
 
     Session& session_;
-    QTabWidget* tab_;
+    QTabWidget* tab_ = nullptr;
     ListTable* list_ = nullptr;
     LineField* name_ = nullptr;
+    ChoiceBox *categories_ = nullptr, *unit_ = nullptr;
     Picture* picture_ = nullptr;
     PictureButton *categoryNew_ = nullptr, *categoryDelete_ = nullptr, *print_ = nullptr;
     PictureButton *itemNew_ = nullptr, *itemDelete_ = nullptr, *itemSave_ = nullptr;

@@ -93,6 +93,16 @@ void LineField::Show(const std::string& shown) {
     showing_ = false;
 }
 
+// A text that its place cuts off is told whole.
+bool LineField::event(QEvent* event) {
+    constexpr int margins = 8;
+    if (event->type() == QEvent::ToolTip) {
+        const bool fits = fontMetrics().horizontalAdvance(text()) <= width() - margins;
+        setToolTip(fits ? QString() : ToToolTip(ToAnsi(text())));
+    }
+    return QLineEdit::event(event);
+}
+
 void LineField::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
     const qsizetype place = hasSelectedText() ? selectionStart() : cursorPosition();

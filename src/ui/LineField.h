@@ -30,6 +30,7 @@ signals:
     void entered(const std::string& text);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

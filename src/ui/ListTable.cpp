@@ -2,6 +2,9 @@
 
 #include "ui/Text.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -53,8 +56,21 @@ private:
     TableSource source_;
 };
 
+namespace {
+
+// Two quick clicks are two clicks.
+class Header : public QHeaderView {
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+};
+
+} // namespace
+
 ListTable::ListTable(QWidget* parent, QList<TableColumn> columns, TableSource source)
-    : QTreeView(parent), columns_(std::move(columns)), model_(new Model(*this, std::move(source))) {
+    : OnePick(parent), columns_(std::move(columns)), model_(new Model(*this, std::move(source))) {
     setModel(model_);
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -63,25 +79,33 @@ ListTable::ListTable(QWidget* parent, QList<TableColumn> columns, TableSource so
     setSelectionMode(SingleSelection);
     setAllColumnsShowFocus(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    header()->setStretchLastSection(false);
-    header()->setSectionsMovable(false);
-    header()->setSectionsClickable(true);
-    header()->setSortIndicatorShown(true);
-    header()->setMinimumSectionSize(10);
-    for (int i = 0; i < columns_.size(); ++i)
-        header()->resizeSection(i, columns_[i].width);
-    connect(header(), &QHeaderView::sectionClicked, this,
-            [this](int section) { emit headerClicked(columns_[section].column); });
+    SetUpHeader();
     connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { emit rowChosen(index.row()); });
 }
 
-void ListTable::Mirror(unsigned revision, int chosenRow, int sortColumn, bool descending) {
+void ListTable::SetUpHeader() {
+    auto* captions = new Header(Qt::Horizontal, this);
+    setHeader(captions);
+    captions->setStretchLastSection(false);
+    captions->setSectionsMovable(false);
+    captions->setSectionsClickable(true);
+    captions->setSortIndicatorShown(true);
+    captions->setMinimumSectionSize(10);
+    for (int i = 0; i < columns_.size(); ++i)
+        captions->resizeSection(i, columns_[i].width);
+    connect(captions, &QHeaderView::sectionClicked, this,
+            [this](int section) { emit headerClicked(columns_[section].column); });
+}
+
+void ListTable::Mirror(unsigned revision, int chosenRow, const ListSort& sort,
+                       const ListReveal& reveal) {
     mirroring_ = true;
-    const bool changed = revision != revision_;
-    if (changed) {
+    setAutoScroll(false);
+    if (revision != revision_) {
         const int scrolled = verticalScrollBar()->value();
         model_->Reset();
+        executeDelayedItemsLayout();
         revision_ = revision;
         verticalScrollBar()->setValue(scrolled);
     }
@@ -92,18 +116,46 @@ void ListTable::Mirror(unsigned revision, int chosenRow, int sortColumn, bool de
         if (!chosen.isValid())
             clearSelection();
     }
-    if (changed && chosen.isValid())
-        scrollTo(chosen);
+    Scroll(reveal);
     for (int i = 0; i < columns_.size(); ++i)
-        if (columns_[i].column == sortColumn)
-            header()->setSortIndicator(i, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+        if (columns_[i].column == sort.column)
+            header()->setSortIndicator(i,
+                                       sort.descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    setAutoScroll(true);
     mirroring_ = false;
+}
+
+void ListTable::Scroll(const ListReveal& reveal) {
+    if (reveal.count != revealed_)
+        scrollTo(model_->index(reveal.row, 0));
+    revealed_ = reveal.count;
+}
+
+void ListTable::CopyAll() const {
+    QString text;
+    for (int row = 0; row < model_->rowCount({}); ++row) {
+        for (int column = 0; column < columns_.size(); ++column)
+            text += (column > 0 ? "\t" : "") + model_->index(row, column).data().toString();
+        text += '\n';
+    }
+    QApplication::clipboard()->setText(text);
+}
+
+void ListTable::keyboardSearch(const QString& letters) {
+    const auto name = [this](int row) { return model_->index(row, 0).data().toString(); };
+    const int found = typeAhead_.Find(letters, currentIndex().row(), model_->rowCount({}), name);
+    if (found >= 0)
+        setCurrentIndex(model_->index(found, 0));
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     if (key == Qt::Key_Delete) {
         emit deletePressed();
+        return;
+    }
+    if (event->matches(QKeySequence::Copy)) {
+        CopyAll();
         return;
     }
     QTreeView::keyPressEvent(event);
@@ -115,6 +167,12 @@ void ListTable::keyPressEvent(QKeyEvent* event) {
 void ListTable::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton)
         emit rowDoubleClicked();
+}
+
+void ListTable::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QPoint row = visualRect(currentIndex()).bottomLeft();
+    emit menuRequested(byKey ? viewport()->mapToGlobal(row) : event->globalPos());
 }
 
 // Not with the current row, which the focus moves as well, without picking anything.

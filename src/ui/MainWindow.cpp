@@ -10,13 +10,20 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
+
+#include <utility>
 
 namespace emporium::ui {
 
 namespace {
 
-void MoveToCentre(QWidget& window) {
-    window.move(window.screen()->availableGeometry().center() - window.rect().center());
+// The place at which the window stands in the middle of its screen together with its frame, as far
+// as the frame is known: the desktop adds it when the window is first shown.
+QPoint CentredPlace(const QWidget& window) {
+    QRect frame = window.frameGeometry();
+    frame.moveCenter(window.screen()->availableGeometry().center());
+    return frame.topLeft();
 }
 
 } // namespace
@@ -33,13 +40,23 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
       shopBackground_(Named(new Picture(this), "imgTempShopEditor")) {
     setObjectName("frmEmporiumMain");
     setFixedSize(Px(9480), Px(6795));
-    MoveToCentre(*this);
+    move(CentredPlace(*this));
     controls_->resize(size());
     browser_->hide();
     itemBackground_->hide();
     shopBackground_->hide();
     BuildModes();
 
+    ConnectPlatform(programFolder);
+    connect(browser_, &HtmlView::navigateComplete, this,
+            [this] { session_.state.print.PreviewReady = true; });
+    session_.mirror.Bind([this] { MirrorWindow(); });
+    session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
+    LoadPictures();
+    itemEditor_->FocusCategories();
+}
+
+void MainWindow::ConnectPlatform(const std::filesystem::path& programFolder) {
     auto& platform = session_.platform;
     platform = QtPlatform(*this, session_.mirror);
     platform.disk = {SystemFiles(), InitFolders(programFolder)};
@@ -65,16 +82,12 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     };
     platform.ShowGeneratorDialog = [this] {
         session_.mirror.Update();
-        MoveToCentre(*generator_);
+        generator_->move(CentredPlace(*generator_));
         generator_->findChild<QWidget*>("cmbShopBeruf")->setFocus(); // wherever it was last time
         generator_->exec();
     };
     platform.FocusItemName = [this] { itemEditor_->FocusName(); };
-    connect(browser_, &HtmlView::navigateComplete, this,
-            [this] { session_.state.print.PreviewReady = true; });
-    session_.mirror.Bind([this] { MirrorWindow(); });
-    session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
-    LoadPictures();
+    platform.FocusItemUnit = [this] { itemEditor_->FocusUnit(); };
 }
 
 // The controls show the session's state, so they go before it.
@@ -132,6 +145,8 @@ void MainWindow::SetBusy(bool busy) {
 }
 
 void MainWindow::paintEvent(QPaintEvent*) {
+    if (!std::exchange(framed_, true) && frameGeometry() != geometry())
+        QTimer::singleShot(0, this, [this] { move(CentredPlace(*this)); });
     const Mode mode = session_.state.mode;
     const QImage& image = BackgroundOf(mode);
     QPainter painter(this);

@@ -30,6 +30,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void ConnectPlatform(const std::filesystem::path& programFolder);
     void BuildModes();
     void LoadPictures();
     const QImage& BackgroundOf(Mode mode) const;
@@ -40,6 +41,7 @@ private:
     Dice dice_;
     bool started_ = false;
     bool closed_ = false;
+    bool framed_ = false; // placed with the frame that the desktop gave it
 
     QWidget* controls_;         // everything that takes input
     QPointer<QWidget> focused_; // before they were disabled

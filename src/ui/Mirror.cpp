@@ -38,8 +38,10 @@ template <typename List> void ShowEntries(List& widget, const QStringList& entri
 
 } // namespace
 
-void Mirror::Bind(QAbstractButton* widget, const Button& state) {
-    Bind([widget, &state] {
+void Mirror::Bind(QAbstractButton* widget, const Button& state, QWidget* refuge) {
+    Bind([widget, &state, refuge] {
+        if (refuge && !state.enabled && widget->window()->focusWidget() == widget)
+            refuge->setFocus();
         widget->setEnabled(state.enabled);
         widget->setVisible(state.visible);
     });

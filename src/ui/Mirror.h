@@ -18,7 +18,8 @@ namespace emporium::ui {
 
 class Mirror {
 public:
-    void Bind(QAbstractButton* widget, const Button& state);
+    /// A button that is disabled while it has the focus hands it to the refuge, if there is one.
+    void Bind(QAbstractButton* widget, const Button& state, QWidget* refuge = nullptr);
     void Bind(LineField* widget, const TextField& state);
     void Bind(QComboBox* widget, const ChoiceList& state);
     void Bind(QListWidget* widget, const ChoiceList& state);

@@ -42,13 +42,16 @@ void ShowMessage(QWidget& window, std::string_view text) {
     message.exec();
 }
 
-std::string AskText(QWidget& window, std::string_view prompt) {
+std::string AskText(QWidget& window, std::string_view prompt, std::string_view hint) {
     QInputDialog dialog(Owner(window));
     dialog.setWindowTitle(ToQString(ProgramTitle));
     dialog.setLabelText(ToQString(prompt));
     dialog.setInputMode(QInputDialog::TextInput);
-    if (auto* field = dialog.findChild<QLineEdit*>())
+    if (auto* field = dialog.findChild<QLineEdit*>()) {
         GuardInput(*field);
+        field->setMinimumWidth(320); // or the title bar would cut the caption off
+        field->setPlaceholderText(ToQString(hint));
+    }
     return dialog.exec() == QDialog::Accepted ? CleanInput(dialog.textValue()) : std::string();
 }
 
@@ -87,9 +90,9 @@ Platform QtPlatform(QWidget& window, const Mirror& mirror) {
         mirror.Update();
         ShowMessage(window, text);
     };
-    platform.AskText = [&](std::string_view prompt) {
+    platform.AskText = [&](std::string_view prompt, std::string_view hint) {
         mirror.Update();
-        return AskText(window, prompt);
+        return AskText(window, prompt, hint);
     };
     platform.ShowSave = [&](const std::filesystem::path& folder, std::string_view filter) {
         mirror.Update();

@@ -4,7 +4,9 @@
 #include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
+#include "shopeditor/ShopRecovery.h"
 #include "ui/Build.h"
+#include "ui/ListMenu.h"
 #include "ui/Pictures.h"
 #include "ui/Text.h"
 
@@ -32,9 +34,10 @@ ShopEditorPane::ShopEditorPane(QWidget* window, Session& session)
                shop.cmbShopRegion,
                [&](int index) { ChooseShopRegion(shop, session_.platform, index); });
     BuildField(BuildFrame(5, "Preise", FieldLeft, 4800, FieldWidth, 615), "cmbShopPreise", 240,
-               shop.cmbShopPreise, [&](int index) { ChoosePriceLevel(shop, index); });
+               shop.cmbShopPreise,
+               [&](int index) { PickPriceLevel(shop, session_.platform, index); });
     BuildField(BuildFrame(6, "Qualität", FieldLeft, 5760, FieldWidth, 615), "cmbShopQualität", 240,
-               shop.cmbShopQualität, [&](int index) { shop.cmbShopQualität.Select(index); });
+               shop.cmbShopQualität, [&](int index) { ChooseShopQuality(shop, index); });
 }
 
 CaptionFrame* ShopEditorPane::BuildFrame(int index, const QString& caption, int left, int top,
@@ -59,10 +62,11 @@ void ShopEditorPane::BuildList() {
                           source);
     Place(Named(list_, "lvLaden"), 120, 360, 2895, 4935);
     list_->setAccessibleName("Waren im Shop");
+    list_->setTextElideMode(Qt::ElideMiddle); // a quantity stands at the end
     session_.mirror.Bind([this, &shop] {
         const auto& view = shop.lvLaden;
         list_->setToolTip(ToToolTip(view.toolTip));
-        list_->Mirror(view.revision, view.current, view.sort.column, view.sort.descending);
+        list_->Mirror(view.revision, view.current, view.sort, view.reveal);
     });
     const auto& platform = session_.platform;
     connect(list_, &ListTable::rowChosen, this,
@@ -70,10 +74,28 @@ void ShopEditorPane::BuildList() {
     connect(list_, &ListTable::headerClicked, this,
             [&](int column) { session_.Do([&] { SortShopList(shop, column); }); });
     connect(list_, &ListTable::deletePressed, this,
-            [&] { session_.Do([&] { RemoveShopRow(shop); }); });
+            [&] { session_.Do([&] { RemoveShopRow(shop, platform); }); });
     connect(list_, &ListTable::rowDoubleClicked, this,
             [&] { session_.Do([&] { SetShopRowPrice(shop, platform); }); });
+    BuildMenu();
     BuildButtons(frame);
+}
+
+void ShopEditorPane::BuildMenu() {
+    AddListMenu(session_, *list_, [this]() -> std::vector<MenuEntry> {
+        auto& shop = session_.state.shop;
+        const auto& platform = session_.platform;
+        const std::string removed(LastRemovedWare(shop));
+        return {{"Preis ändern …", shop.cmdShopAnzahl.enabled,
+                 [&] { SetShopRowPrice(shop, platform); }},
+                {"Anzahl ändern …", shop.cmdShopAnzahl.enabled,
+                 [&] { SetShopRowQuantity(shop, platform); }},
+                {"Aus dem Shop nehmen", shop.cmdShopDelete.enabled,
+                 [&] { RemoveShopRow(shop, platform); }},
+                {removed.empty() ? "Zurückholen" : "Zurückholen: " + MenuText(removed),
+                 !shop.removed.empty(), [&] { RecoverShopRow(shop, platform); }},
+                CopyEntry(*list_)};
+    });
 }
 
 void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
@@ -87,7 +109,7 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
     quantity_ = build("cmdShopAnzahl", "Anzahl bearbeiten", "x", 120,
                       [&] { SetShopRowQuantity(shop, platform); });
     remove_ = build("cmdShopDelete", "Gewählten Gegenstand löschen", "–", 480,
-                    [&] { RemoveShopRow(shop); });
+                    [&] { RemoveShopRow(shop, platform); });
     print_ = build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
         PrintTempDocument(state.print, platform,
                           [&shop](std::string& file) { WriteShopPrint(shop, file); });
@@ -95,8 +117,8 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
     export_ = build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
     generator_ = build("cmdShopGenerator", "Shopgenerator", "W", 2640,
                        [&] { OpenGenerator(state.generator, shop, platform); });
-    session_.mirror.Bind(quantity_, shop.cmdShopAnzahl);
-    session_.mirror.Bind(remove_, shop.cmdShopDelete);
+    session_.mirror.Bind(quantity_, shop.cmdShopAnzahl, list_);
+    session_.mirror.Bind(remove_, shop.cmdShopDelete, list_);
 }
 
 void ShopEditorPane::BuildOwner() {
@@ -108,10 +130,14 @@ void ShopEditorPane::BuildOwner() {
     auto* draw = Place(Named(new QPushButton("G", frame), "cmdGenName"), 1965, 240, 330, 330);
     draw->setToolTip("Zufallsnamen generieren");
     draw->setAccessibleName(draw->toolTip());
+    draw->setAutoDefault(true);
     session_.mirror.Bind(draw, shop.cmdGenName);
     connect(draw, &QPushButton::clicked, this,
             [&] { session_.Do([&] { DrawOwnerName(shop, session_.platform); }); });
     BuildField(frame, "cmbRasse", 660, shop.cmbRasse, [&](int index) { ChooseRace(shop, index); });
+    auto* race = frame->findChild<QComboBox*>("cmbRasse");
+    race->setAccessibleName(ToQString(shop.cmbRasse.toolTip));
+    race->setPlaceholderText("Volk wählen …");
 }
 
 LineField* ShopEditorPane::BuildText(CaptionFrame* frame, const char* name, TextField& state) {
@@ -119,7 +145,7 @@ LineField* ShopEditorPane::BuildText(CaptionFrame* frame, const char* name, Text
     text->setAccessibleName(frame->accessibleName());
     session_.mirror.Bind(text, state);
     connect(text, &LineField::entered, this, [this, &state](const std::string& entered) {
-        session_.Do([&] { state.text = entered; });
+        session_.Do([&] { EditShopText(state, entered); });
     });
     return text;
 }

@@ -21,6 +21,7 @@ private:
     CaptionFrame* BuildFrame(int index, const QString& caption, int left, int top, int width,
                              int height);
     void BuildList();
+    void BuildMenu();
     void BuildButtons(CaptionFrame* frame);
     void BuildOwner();
     LineField* BuildText(CaptionFrame* frame, const char* name, TextField& state);

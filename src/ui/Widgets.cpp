@@ -13,6 +13,16 @@ namespace {
 constexpr int CaptionIndent = 8;
 constexpr int CaptionMargin = 3;
 
+// A dark and a light line, so that one of them shows on any ground.
+void DrawFocusRing(QPainter& painter, const QRect& place) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(Qt::black);
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+    painter.setPen(Qt::white);
+    painter.drawRect(place.adjusted(1, 1, -2, -2));
+}
+
 } // namespace
 
 QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget) {
@@ -55,7 +65,7 @@ PictureButton::PictureButton(QWidget* parent, const QString& toolTip,
     : QPushButton(textWithoutPicture, parent) {
     setToolTip(toolTip);
     setAccessibleName(toolTip);
-    setAutoDefault(false);
+    setAutoDefault(true); // Return presses it
 }
 
 void PictureButton::SetPicture(const QImage& picture) {
@@ -72,7 +82,7 @@ void PictureButton::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(hasFocus() ? QColor(0, 90, 158) : QColor(90, 90, 90));
+    painter.setPen(QColor(90, 90, 90));
     painter.setBrush(QColor(240, 240, 240));
     painter.drawRoundedRect(outline, 3, 3);
     const int shift = isDown() ? 1 : 0;
@@ -81,6 +91,8 @@ void PictureButton::paintEvent(QPaintEvent* event) {
     painter.setOpacity(1.0);
     if (isEnabled() && underMouse())
         painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor(255, 220, 120, 60));
+    if (hasFocus())
+        DrawFocusRing(painter, rect());
 }
 
 void Picture::SetImage(const QImage& image) {

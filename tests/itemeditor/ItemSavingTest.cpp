@@ -138,8 +138,10 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     }
     World vanished(foreign, false);
     vanished.Save();
+    vanished.script.ExpectMessage("Bitte wählt zuerst"_ansi);
     vanished.Delete(); // nothing is chosen now
     vanished.Save();
+    EXPECT_EQ(vanished.editor.CurrentItemRow, -1) << "saving chooses none";
     EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
     World twins(before, false);
     twins.program.Write("Emporium/Nahkampfwaffen.dat", coat);

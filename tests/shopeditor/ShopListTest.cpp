@@ -63,7 +63,7 @@ TEST_F(ShopList, RowsStandSortedByTheTextOfOneColumn) {
     EXPECT_EQ(Rows()[4], "Zelt 2S");
     ChooseShopRow(shop, 3);
     for (const auto next : {"Zelt 2S"_ansi, "Ähre 12S"_ansi, "Schwert 2 120D"_ansi}) {
-        RemoveShopRow(shop);
+        RemoveShopRow(shop, script.platform);
         EXPECT_EQ(Current(), next);
     }
 }

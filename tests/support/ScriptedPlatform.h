@@ -32,10 +32,12 @@ public:
             return Answer("yes/no", box.text) == "yes";
         };
         platform.ShowMessage = [this](std::string_view text) { Answer("message", text); };
-        platform.AskText = [this](std::string_view prompt) { return Answer("text", prompt); };
+        platform.AskText = [this](std::string_view prompt, std::string_view) {
+            return Answer("text", prompt);
+        };
         platform.ShowGeneratorDialog = [] {};
         platform.SetWaitPointer = [](bool) {};
-        platform.FocusItemName = [] {};
+        platform.FocusItemName = platform.FocusItemUnit = [] {};
     }
     ~ScriptedPlatform() {
         for (const Step& step : script_)

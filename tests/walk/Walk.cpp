@@ -167,6 +167,7 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
+    emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 3) {

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTest>
@@ -72,6 +74,7 @@ TEST_F(ShopWindowTest, NothingIsRemovedThatWasNotPicked) {
     AddWares();
     auto* list = driver->Find<ui::ListTable>("lvLaden");
     list->setFocus(Qt::TabFocusReason);
+    Dismiss("Bitte wählt zuerst eine Ware");
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(list->model()->rowCount(), 2);
     const QRect second = list->visualRect(list->model()->index(1, 0));
@@ -79,6 +82,45 @@ TEST_F(ShopWindowTest, NothingIsRemovedThatWasNotPicked) {
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(driver->Cell("lvLaden", 0, 0), "Ahle");
     EXPECT_EQ(list->model()->rowCount(), 1);
+    // No click takes the light from the row.
+    const QRect first = list->visualRect(list->model()->index(0, 0));
+    for (const QPoint place : {first.center(), first.center() + QPoint(0, 100)}) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        EXPECT_TRUE(list->selectionModel()->hasSelection());
+    }
+}
+
+TEST_F(ShopWindowTest, WhatWasRemovedComesBackByTheMenuAsOftenAsItWent) {
+    OpenShop();
+    AddWares();
+    auto* list = driver->Find<ui::ListTable>("lvLaden");
+    driver->ClickRow("lvLaden", 1);
+    Enter("Bitte gebt den neuen Preis ein.", "1,5");
+    driver->DoubleClickRow("lvLaden", 1);
+    auto* remove = driver->Find("cmdShopDelete");
+    remove->setFocus();
+    QTest::keyClick(remove, Qt::Key_Space);
+    QTest::keyClick(remove, Qt::Key_Return);
+    EXPECT_EQ(list->model()->rowCount(), 0);
+    EXPECT_EQ(window->focusWidget(), list) << "a further key must not open the print dialog";
+    const auto choose = [&](int entry) {
+        QTimer::singleShot(50, list, [entry] {
+            auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu);
+            menu->setActiveAction(menu->actions().at(entry));
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(list->viewport(), &event);
+        QTest::qWait(10);
+    };
+    constexpr int recover = 3, copy = 4;
+    choose(recover);
+    EXPECT_EQ(driver->Cell("lvLaden", 0, 0), "Ahle");
+    choose(recover);
+    choose(copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Ahle\t8H\nZange\t1,5S\n");
 }
 
 TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
@@ -114,31 +156,6 @@ TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
     EXPECT_EQ(driver->Find<QLineEdit>("txtShopart")->text(), "Schmied");
     EXPECT_EQ(driver->Find<QComboBox>("cmbShopQualität")->currentText(), "Spezialist");
     EXPECT_EQ(driver->Find<QComboBox>("cmbShopPreise")->currentText(), "Teuer");
-}
-
-TEST_F(ShopWindowTest, AnOwnerIsDrawnForARace) {
-    OpenShop();
-    EXPECT_FALSE(driver->Find("cmdGenName")->isEnabled());
-    driver->Pick("cmbRasse", "Gareth");
-    driver->Click("cmdGenName");
-    EXPECT_EQ(driver->Find<QLineEdit>("txtBesitzerName")->text(), "Ada Mek");
-    driver->Pick("cmbRasse", "Elfen");
-    Dismiss("Es konnte kein Name gezogen werden");
-    driver->Click("cmdGenName");
-    EXPECT_EQ(driver->Find<QLineEdit>("txtBesitzerName")->text(), "Ada Mek");
-}
-
-TEST_F(ShopWindowTest, AnExportThatFailsLeavesTheFile) {
-    OpenShop();
-    std::filesystem::create_directory(program.root / "ordner.html");
-    const QString target = Output("ordner.html/drin/shop.html");
-    driver->Expect([target](QWidget& dialog) {
-        auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-        name->setText(target);
-        dynamic_cast<QDialog&>(dialog).done(QDialog::Accepted);
-    });
-    Dismiss("Der Shop konnte nicht gespeichert werden.");
-    driver->Click("cmdShopExport");
 }
 
 class PrintTest : public ShopWindowTest {

@@ -24,6 +24,8 @@ WindowDriver::WindowDriver(ui::MainWindow& window) : window_(window) {
 }
 
 void WindowDriver::Click(QWidget* widget) {
+    if (!widget->isVisible())
+        qFatal("%s is hidden", qUtf8Printable(widget->objectName()));
     QTest::mouseClick(widget, Qt::LeftButton);
 }
 

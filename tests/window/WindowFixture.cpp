@@ -71,6 +71,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", TEST_PLATFORM);
+    emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
     // The system's own file dialog can be answered by its user only.
