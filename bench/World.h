@@ -74,14 +74,6 @@ public:
         return file;
     }
 
-    /// What the categories take on the disk.
-    double Megabytes() const {
-        std::uintmax_t bytes = 0;
-        for (const auto& file : std::filesystem::directory_iterator(folders.EmporiumFolder()))
-            bytes += file.file_size();
-        return static_cast<double>(bytes) / (1024 * 1024);
-    }
-
     /// As long as the starter files' records are on average.
     static ItemRecord Record(int number) {
         static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",
@@ -103,15 +95,10 @@ private:
     }
 };
 
-inline std::unique_ptr<ShopRow> Ware(int number) {
-    const ItemRecord r = World::Record(number);
-    return MakeShopRow(r[NameField], r[WeightField], r[PriceField], r[AvailabilityField]);
-}
-
 inline ShopEditor FilledShop(std::int64_t rows) {
     ShopEditor shop;
     for (int i = 0; i < rows; ++i)
-        shop.lvLaden.rows.push_back(Ware(i));
+        shop.lvLaden.rows.push_back(MakeShopRow(ViewOf(World::Record(i))));
     ArrangeShopList(shop);
     UpdateShopButtons(shop);
     return shop;

@@ -3,8 +3,8 @@
 // and anything may have changed when the call returns.
 #pragma once
 
+#include "base/Dice.h"
 #include "base/Disk.h"
-#include "base/Subs.h"
 #include "files/FileLayer.h"
 
 #include <chrono>
@@ -17,11 +17,11 @@ namespace emporium {
 
 enum class BoxIcon { Question, Warning };
 
-/// A box with the buttons Yes, the default, and No, captioned with ProgramTitle.
+/// A box with the buttons Yes and No, captioned with ProgramTitle.
 struct YesNoBox {
     std::string text;
     BoxIcon icon = BoxIcon::Question;
-    bool closingMeansYes = false; // where No is the answer that can't be taken back
+    bool noIsDefault = false; // where Yes takes something away that nobody has seen
 };
 
 struct Platform {
@@ -29,7 +29,7 @@ struct Platform {
 
     Die RollDice;
 
-    /// True for Yes; a box that is closed without an answer counts as No, unless it says otherwise.
+    /// True for Yes; a box that is closed without an answer counts as No.
     std::function<bool(const YesNoBox& box)> AskYesNo;
 
     /// A message with an exclamation mark and an OK button, captioned with ProgramTitle.
@@ -51,8 +51,9 @@ struct Platform {
     struct {
         std::function<void(bool visible)> SetVisible;
 
-        /// Begins to load the file; the window's PreviewReady tells when it is there.
-        std::function<void(const std::filesystem::path& file)> Navigate;
+        /// Begins to load the file; the window's PreviewReady tells when it is there. False if it
+        /// can't be read.
+        std::function<bool(const std::filesystem::path& file)> Navigate;
 
         /// Opens the print dialog for the loaded page and prints. False if printing failed; a
         /// cancel is no failure.

@@ -4,24 +4,24 @@
 
 namespace emporium {
 
-void WriteItemList(const ItemEditor& editor, std::string& file) {
-    HTMLHead(editor.cmbKategorien.Text(), file);
-    HTMLTableOpen(file);
-    HTMLLine("<tr>", file);
+void WriteItemList(const ItemEditor& editor, std::string& document) {
+    HTMLHead(editor.cmbKategorien.Text(), document);
+    HTMLTableOpen(document);
+    HTMLLine("<tr>", document);
     for (const auto caption : {std::string_view("NAME:"), std::string_view("GEWICHT:"),
                                std::string_view("PREIS:"), "VERFÜGBAR IN:"_ansi})
-        HTMLHeaderCell(caption, file);
-    HTMLLine("</tr>", file);
+        HTMLHeaderCell(caption, document);
+    HTMLLine("</tr>", document);
     for (const int row : editor.lvGegenstände.rows) {
         const RecordView& record = editor.Record(row);
-        HTMLLine("<tr>", file);
-        HTMLCell(ItemName(record), "35%", file);
-        HTMLCell(record[WeightField], "15%", file);
-        HTMLCell(record[PriceField], "15%", file);
-        HTMLAvailabilityCell(record[AvailabilityField], file);
-        HTMLLine("</tr>", file);
+        HTMLLine("<tr>", document);
+        HTMLCell(ItemName(record), "35%", document);
+        HTMLCell(record[WeightField], "15%", document);
+        HTMLCell(record[PriceField], "15%", document);
+        HTMLAvailabilityCell(record[AvailabilityField], document);
+        HTMLLine("</tr>", document);
     }
-    HTMLLine("</table>", file);
+    HTMLLine("</table>", document);
 }
 
 } // namespace emporium

@@ -7,6 +7,7 @@
 
 namespace emporium {
 
-void WriteItemList(const ItemEditor& editor, std::string& file);
+/// Appends the page to the document.
+void WriteItemList(const ItemEditor& editor, std::string& document);
 
 } // namespace emporium

@@ -7,7 +7,7 @@ namespace emporium {
 
 namespace {
 
-enum class Wait { Ready, TimedOut, WindowClosed };
+enum class Wait { Ready, Failed, WindowClosed };
 
 Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     using Clock = std::chrono::steady_clock;
@@ -16,7 +16,7 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
         if (!platform.ProcessEvents())
             return Wait::WindowClosed;
         if (!host.PreviewReady && Clock::now() > deadline)
-            return Wait::TimedOut;
+            return Wait::Failed;
     }
     return Wait::Ready;
 }
@@ -29,14 +29,16 @@ bool Load(PrintHost& host, const Platform& platform,
     host.PreviewReady = false;
     std::string document;
     writer(document);
-    if (const auto failure = WriteFile(platform.disk.files, page, std::move(document))) {
-        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *failure);
+    const auto& files = platform.disk.files;
+    files.createFolder(page.parent_path());
+    const auto written = WriteFiles(files, page.parent_path(), {{page, std::move(document)}});
+    if (written.failure) {
+        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *written.failure);
         return false;
     }
-    platform.Browser.Navigate(page);
-    const Wait wait = WaitForPage(host, platform);
+    const Wait wait = platform.Browser.Navigate(page) ? WaitForPage(host, platform) : Wait::Failed;
     host.PreviewReady = false;
-    if (wait == Wait::TimedOut)
+    if (wait == Wait::Failed)
         fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
     return wait == Wait::Ready;
 }

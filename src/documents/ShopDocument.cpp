@@ -2,69 +2,71 @@
 
 #include "documents/HTMLExport.h"
 #include "files/FileWriting.h"
+#include "shopeditor/ShopList.h"
 #include "text/Ansi.h"
 
 namespace emporium {
 
 namespace {
 
-void WriteHeading(const ShopEditor& shop, std::string& file) {
-    HTMLHead(shop.txtName.text, file);
-    HTMLHeading(shop.txtName.text, 1, file);
+void WriteHeading(const ShopEditor& shop, std::string& document) {
+    HTMLHead(shop.txtName.text, document);
+    HTMLHeading(shop.txtName.text, 1, document);
 }
 
 // What follows the owner, up to the table's first header cells.
-void WriteChoices(const ShopEditor& shop, std::string& file) {
-    HTMLLabelLine("Region: ", shop.cmbShopRegion.Text(), file);
-    HTMLLabelLine("Preise: ", shop.cmbShopPreise.Text(), file);
-    HTMLLabelLine("Qualität: "_ansi, shop.cmbShopQualität.Text(), file);
-    HTMLBreaks(3, file);
-    HTMLTableOpen(file);
-    HTMLLine("<tr>", file);
-    HTMLHeaderCell("NAME:", file);
-    HTMLHeaderCell("GEWICHT:", file);
-    HTMLHeaderCell("PREIS:", file);
+void WriteChoices(const ShopEditor& shop, std::string& document) {
+    HTMLLabelLine("Region: ", shop.cmbShopRegion.Text(), document);
+    HTMLLabelLine("Preise: ", shop.cmbShopPreise.Text(), document);
+    HTMLLabelLine("Qualität: "_ansi, shop.cmbShopQualität.Text(), document);
+    HTMLBreaks(3, document);
+    HTMLTableOpen(document);
+    HTMLLine("<tr>", document);
+    HTMLHeaderCell("NAME:", document);
+    HTMLHeaderCell("GEWICHT:", document);
+    HTMLHeaderCell("PREIS:", document);
 }
 
 } // namespace
 
-void WriteShopExport(const ShopEditor& shop, std::string& file) {
-    WriteHeading(shop, file);
-    HTMLLabelLine("Name des Shops: ", shop.txtName.text, file);
-    HTMLLabelLine("Shopart: ", shop.txtShopart.text, file);
-    HTMLLabelLine("Besitzer/in: ", shop.txtBesitzerName.text, file);
-    WriteChoices(shop, file);
-    HTMLLine("</tr>", file);
-    for (const auto& row : shop.lvLaden.rows) {
-        HTMLLine("<tr>", file);
-        HTMLCell(row->Text, "50%", file);
-        HTMLCell(row->Weight + " Unzen", "40%", file);
-        HTMLCell(row->Price, "10%", file);
-        HTMLLine("</tr>", file);
+void WriteShopExport(const ShopEditor& shop, std::string& document) {
+    WriteHeading(shop, document);
+    HTMLLabelLine("Name des Shops: ", shop.txtName.text, document);
+    HTMLLabelLine("Shopart: ", shop.txtShopart.text, document);
+    HTMLLabelLine("Besitzer/in: ", shop.txtBesitzerName.text, document);
+    WriteChoices(shop, document);
+    HTMLLine("</tr>", document);
+    for (const ShopRow& row : shop.lvLaden.rows) {
+        HTMLLine("<tr>", document);
+        HTMLCell(ShopCell(row, ShopTextColumn), "50%", document);
+        HTMLCell(std::string(row.Weight) + " Unzen", "40%", document);
+        HTMLCell(row.Price, "10%", document);
+        HTMLLine("</tr>", document);
     }
-    HTMLLine("</tr>", file);
-    HTMLLine("</table>", file);
+    HTMLLine("</tr>", document);
+    HTMLLine("</table>", document);
 }
 
-void WriteShopPrint(const ShopEditor& shop, std::string& file) {
-    WriteHeading(shop, file);
-    HTMLLabelLine("Shopart: ", shop.txtShopart.text, file);
-    HTMLLabelLine("Besitzer: ", shop.txtBesitzerName.text, file);
-    WriteChoices(shop, file);
-    HTMLHeaderCell("VERFÜGBAR IN:"_ansi, file);
-    HTMLLine("</tr>", file);
-    for (const auto& row : shop.lvLaden.rows) {
-        HTMLLine("<tr>", file);
-        HTMLCell(row->Text, "35%", file);
-        HTMLCell(row->Weight, "15%", file);
-        HTMLCell(row->Price, "15%", file);
-        HTMLAvailabilityCell(row->ShopAvailability, file);
-        HTMLLine("</tr>", file);
+void WriteShopPrint(const ShopEditor& shop, std::string& document) {
+    WriteHeading(shop, document);
+    HTMLLabelLine("Shopart: ", shop.txtShopart.text, document);
+    HTMLLabelLine("Besitzer: ", shop.txtBesitzerName.text, document);
+    WriteChoices(shop, document);
+    HTMLHeaderCell("VERFÜGBAR IN:"_ansi, document);
+    HTMLLine("</tr>", document);
+    for (const ShopRow& row : shop.lvLaden.rows) {
+        HTMLLine("<tr>", document);
+        HTMLCell(ShopCell(row, ShopTextColumn), "35%", document);
+        HTMLCell(row.Weight, "15%", document);
+        HTMLCell(row.Price, "15%", document);
+        HTMLAvailabilityCell(row.ShopAvailability, document);
+        HTMLLine("</tr>", document);
     }
-    HTMLLine("</table>", file);
+    HTMLLine("</table>", document);
 }
 
 void ExportShop(const ShopEditor& shop, const Platform& platform) {
+    platform.disk.files.createFolder(platform.disk.folders.HtmlFolder);
     const auto target =
         platform.ShowSave(platform.disk.folders.HtmlFolder, "HTML-Dateien (*.html)|*.html");
     if (target.empty())
@@ -72,7 +74,7 @@ void ExportShop(const ShopEditor& shop, const Platform& platform) {
     platform.SetWaitPointer(true);
     std::string document;
     WriteShopExport(shop, document);
-    const auto failure = WriteFile(platform.disk.files, target, std::move(document));
+    const auto failure = WriteDocument(platform.disk.files, target, document);
     platform.SetWaitPointer(false);
     if (failure) {
         platform.ShowMessage(FailureText("Der Shop konnte nicht gespeichert werden.", *failure));

@@ -3,15 +3,15 @@
 #pragma once
 
 #include "base/Platform.h"
-#include "base/Variablen.h"
 #include "shopeditor/ShopEditor.h"
 
 #include <string>
 
 namespace emporium {
 
-void WriteShopExport(const ShopEditor& shop, std::string& file);
-void WriteShopPrint(const ShopEditor& shop, std::string& file);
+/// Append the page to the document, the wares in the order of the list.
+void WriteShopExport(const ShopEditor& shop, std::string& document);
+void WriteShopPrint(const ShopEditor& shop, std::string& document);
 
 /// cmdShopExport: asks for a file, writes the shop into it and offers to show it. If the file can't
 /// be written, a box says so, and a file that was there before stays as it was.

@@ -19,7 +19,7 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
-    static constexpr std::array<Known, 15> known = {{
+    static constexpr std::array<Known, 17> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert, oder die Datei ist "
                                        "schreibgeschützt oder gerade in Gebrauch."_ansi},
@@ -32,6 +32,9 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::no_such_file_or_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::not_a_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},
+        {std::errc::operation_not_supported, "Es ist keine gewöhnliche Datei, sondern eine "
+                                             "Verknüpfung, eine Pipe oder ein Gerät."_ansi},
+        {std::errc::too_many_symbolic_link_levels, "Die Verknüpfung führt im Kreis."_ansi},
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
         {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},

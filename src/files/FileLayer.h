@@ -1,6 +1,7 @@
-// What the program asks of the file system, one operation a member, so that tests can let the n-th
-// one fail or be the last. SystemFiles.cpp holds the real ones. Whole files are read and written
-// through FileWriting, which is built on these.
+// The file system as a struct of functions: nothing in the program asks the disk by another road,
+// so that a test can put a disk of its own in its place. SystemFilesLinux.cpp and
+// SystemFilesWindows.cpp hold the real ones. Whole files are written through FileWriting, which is
+// built on these.
 #pragma once
 
 #include <cstddef>
@@ -26,15 +27,48 @@ struct FileText {
     bool IsWhole() const { return state == State::Whole; }
 };
 
+/// What stands at a path; a link is a link, wherever it leads.
+struct FileStatus {
+    enum class Kind { Absent, File, Folder, Link, Other };
+
+    Kind kind = Kind::Absent;
+    bool writable = false;  // by this user, and not write-protected
+    bool hidden = false;    // the desktop hides it from its user
+    std::error_code reason; // the system can't tell what stands there
+};
+
+/// A mark on a folder that this running program uses it, beside any other's. It goes when the last
+/// copy of it goes, at the latest with the program.
+struct FolderClaim {
+    bool takenElsewhere = false; // another running program bears a mark
+    std::shared_ptr<void> mark;  // nothing if the folder can't be marked
+};
+
 struct FileLayer {
     using Path = std::filesystem::path;
     using Handle = std::intptr_t;
 
-    /// The whole file. A folder in the file's place is unreadable, and so is a file above 1 GiB.
+    /// The whole file, links followed. What is no file in the end, a folder or a pipe, is
+    /// unreadable, and so is a file above 1 GiB.
     std::function<FileText(const Path& file)> read;
+
+    /// What stands at the path. A name that no file can bear is absent.
+    std::function<FileStatus(const Path& path)> status;
+
+    /// Where a link leads to, as it says itself; empty for what is no link.
+    std::function<Path(const Path& link)> linkTarget;
+
+    /// What lies in the folder, in no order, as far as it can be read.
+    std::function<std::vector<Path>(const Path& folder)> entries;
+
+    /// True if both paths lead to one file.
+    std::function<bool(const Path& one, const Path& other)> sameFile;
 
     /// Creates a file for writing; fails with file_exists if there is one of that name.
     std::function<std::error_code(const Path& file, Handle& handle)> createNew;
+
+    /// Opens a file that is there and empties it.
+    std::function<std::error_code(const Path& file, Handle& handle)> overwrite;
 
     /// Writes a part of the bytes, at least one; `written` tells how many.
     std::function<std::error_code(Handle handle, std::string_view bytes, std::size_t& written)>
@@ -57,31 +91,30 @@ struct FileLayer {
 
     /// Has renames and removals in the folder reach the disk.
     std::function<std::error_code(const Path& folder)> flushFolder;
+
+    /// Makes a folder in one that is there; no failure if it is there already.
+    std::function<std::error_code(const Path& folder)> createFolder;
+
+    /// Marks the folder as used by this program, see FolderClaim.
+    std::function<FolderClaim(const Path& folder)> claim;
+
+    /// Waits, for three seconds at most, until no other program writes into the folder, and keeps
+    /// them from it as long as `lock` lives. Fails with device_or_resource_busy. On a disk that
+    /// knows no locks there is no failure and no lock.
+    std::function<std::error_code(const Path& folder, std::shared_ptr<void>& lock)> lock;
 };
 
 /// The file system of this machine.
 FileLayer SystemFiles();
 
-/// A mark on a folder that this running program uses it, beside any other's. It goes when the last
-/// copy of it goes, at the latest with the program.
-struct FolderClaim {
-    bool takenElsewhere = false; // another running program bears a mark
-    std::shared_ptr<void> mark;  // nothing if the folder can't be marked
-};
-
-FolderClaim ClaimFolder(const std::filesystem::path& folder);
-
-/// What stands at the path, links followed; `error` if the system can't tell. A write-protected
-/// file's owner may not write.
-std::filesystem::file_status StatusOf(const std::filesystem::path& path, std::error_code& error);
-
-/// What lies in the folder, in no order, as far as it can be read.
-std::vector<std::filesystem::path> EntriesOf(const std::filesystem::path& folder);
-
-/// True for a file that the desktop hides from its user.
-bool IsHiddenFile(const std::filesystem::path& file);
-
 /// The folder of the running program, on Linux with links resolved.
 std::filesystem::path RunningProgramFolder();
+
+/// Far above every file of the program; what is larger would take the memory that others need.
+inline constexpr std::size_t LargestFile = std::size_t{1} << 30U;
+
+/// How long `lock` waits, and how long it sleeps between two tries.
+inline constexpr int LockMilliseconds = 3000;
+inline constexpr int LockPauseMilliseconds = 10;
 
 } // namespace emporium

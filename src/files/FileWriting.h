@@ -1,7 +1,8 @@
 // The one road by which a file is written: the complete new contents of one or several files, and
 // afterwards all of them stand or none does, also if the program is killed, the disk is full or an
 // operation fails. A single file is written beside its place and renamed over it. Several files
-// are bound together by a journal; what it announces is carried out before any file is rewritten.
+// are bound together by a journal. Until the first rename a failure drops everything; after it the
+// only way is forward: what could not be written yet follows later (see Recovery).
 #pragma once
 
 #include "files/FileFailure.h"
@@ -18,27 +19,21 @@ struct FileChange {
     std::optional<std::string> contents; // nothing: the file is removed
 };
 
-/// Carries out all changes or none, removals last. Links are followed, permissions kept; a
-/// write-protected file is refused, and so are two changes that lead to one file. More than one
-/// change needs `journalFolder`, the folder that FinishJournal looks at. On failure every file
-/// stands as before; if even that could not be brought about, the next FinishJournal carries out
-/// all changes.
-std::optional<FileFailure> WriteFiles(const FileLayer& files,
-                                      const std::filesystem::path& journalFolder,
-                                      const std::vector<FileChange>& changes);
+/// What a write came to.
+struct [[nodiscard]] WriteResult {
+    bool stands = false; // the new contents stand, or will when a failure has passed
+    std::optional<FileFailure> failure;
+};
 
-/// One file, see WriteFiles.
-std::optional<FileFailure> WriteFile(const FileLayer& files, const std::filesystem::path& file,
-                                     std::string contents);
+/// Writes the program's own files, all of one folder: all changes or none, in their order,
+/// permissions kept. What is a link, a folder, a pipe or write-protected is refused, and so are two
+/// changes that lead to one file, and everything while a journal stands in the folder.
+WriteResult WriteFiles(const FileLayer& files, const std::filesystem::path& folder,
+                       std::vector<FileChange> changes);
 
-/// Carries out what the folder's journal announces, if there is one. Runs before the files are read
-/// that are to be rewritten. A journal that can't be carried out stays, and its failure is
-/// returned; one whose contents are lost goes, and is told once.
-std::optional<FileFailure> FinishJournal(const FileLayer& files,
-                                         const std::filesystem::path& journalFolder);
-
-/// FinishJournal and RemoveStrays.
-std::optional<FileFailure> FinishInterruptedWrites(const FileLayer& files,
-                                                   const std::filesystem::path& journalFolder);
+/// Writes a file where the user wants it; links are followed. In a folder that may not be written,
+/// a file that may is written in its place, which an interruption can spoil.
+[[nodiscard]] std::optional<FileFailure>
+WriteDocument(const FileLayer& files, const std::filesystem::path& file, std::string_view contents);
 
 } // namespace emporium

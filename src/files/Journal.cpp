@@ -1,5 +1,6 @@
 #include "files/Journal.h"
 
+#include "files/Temporaries.h"
 #include "text/LineReader.h"
 
 #include <charconv>
@@ -8,7 +9,9 @@ namespace emporium {
 
 namespace {
 
-constexpr std::string_view Heading = "orvan-journal 1";
+using namespace std::string_view_literals;
+
+constexpr std::string_view Heading = "orvan-journal 2";
 
 std::string Utf8Name(const std::filesystem::path& file) {
     const std::u8string name = file.generic_u8string();
@@ -27,12 +30,6 @@ std::optional<std::uint64_t> ReadNumber(std::string_view text) {
     return number;
 }
 
-std::string ClosingLine(std::string_view before) {
-    return std::to_string(Checksum(before)) + "\n";
-}
-
-} // namespace
-
 std::uint64_t Checksum(std::string_view bytes) {
     constexpr std::uint64_t basis = 14695981039346656037U; // FNV-1a
     constexpr std::uint64_t prime = 1099511628211U;
@@ -42,11 +39,62 @@ std::uint64_t Checksum(std::string_view bytes) {
     return sum;
 }
 
+std::string ClosingLine(std::string_view before) {
+    return std::to_string(Checksum(before)) + "\n";
+}
+
+// A number or "-" on each of two lines.
+std::string FingerprintText(const std::optional<Fingerprint>& print) {
+    return print ? std::to_string(print->length) + "\n" + std::to_string(print->checksum) + "\n"
+                 : "-\n-\n";
+}
+
+// False for lines that are neither two numbers nor two times "-".
+bool ReadFingerprint(LineReader& lines, std::optional<Fingerprint>& print) {
+    std::string_view length, checksum;
+    lines.Next(length);
+    lines.Next(checksum);
+    print.reset();
+    if (length == "-" && checksum == "-")
+        return true;
+    const auto first = ReadNumber(length);
+    const auto second = ReadNumber(checksum);
+    if (!first || !second)
+        return false;
+    print = Fingerprint{*first, *second};
+    return true;
+}
+
+bool IsPlainFileName(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of("/\\:\0"sv) == name.npos;
+}
+
+bool ReadEntry(LineReader& lines, JournalEntry& entry) {
+    std::string_view target, temporary;
+    lines.Next(target);
+    lines.Next(temporary);
+    std::optional<Fingerprint> after;
+    if (!ReadFingerprint(lines, entry.before) || !ReadFingerprint(lines, after) || !after)
+        return false;
+    entry.target = FromUtf8Name(target);
+    entry.temporary = FromUtf8Name(temporary);
+    entry.after = *after;
+    return IsPlainFileName(target) &&
+           (temporary.empty() || IsTemporaryOf(entry.target, entry.temporary));
+}
+
+} // namespace
+
+Fingerprint FingerprintOf(std::string_view bytes) {
+    return {bytes.size(), Checksum(bytes)};
+}
+
 std::string JournalText(const Journal& journal) {
     std::string text = std::string(Heading) + "\n";
     for (const JournalEntry& entry : journal)
-        text += Utf8Name(entry.temporary) + "\n" + Utf8Name(entry.target) + "\n" +
-                std::to_string(entry.length) + "\n" + std::to_string(entry.checksum) + "\n";
+        text += Utf8Name(entry.target) + "\n" + Utf8Name(entry.temporary) + "\n" +
+                FingerprintText(entry.before) + FingerprintText(entry.after);
     return text + ClosingLine(text);
 }
 
@@ -60,19 +108,9 @@ std::optional<Journal> ReadJournal(std::string_view text) {
     if (!lines.Next(line) || line != Heading)
         return std::nullopt;
     Journal journal;
-    while (!lines.AtEnd()) {
-        std::string_view temporary, target, length, checksum;
-        lines.Next(temporary);
-        lines.Next(target);
-        lines.Next(length);
-        lines.Next(checksum);
-        const auto lengthNumber = ReadNumber(length);
-        const auto checksumNumber = ReadNumber(checksum);
-        if (!lengthNumber || !checksumNumber)
+    while (!lines.AtEnd())
+        if (!ReadEntry(lines, journal.emplace_back()))
             return std::nullopt;
-        journal.push_back(
-            {FromUtf8Name(temporary), FromUtf8Name(target), *lengthNumber, *checksumNumber});
-    }
     return journal;
 }
 

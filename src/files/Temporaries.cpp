@@ -1,6 +1,6 @@
 #include "files/Temporaries.h"
 
-#include <vector>
+#include <algorithm>
 
 namespace emporium {
 
@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* TemporaryEnding = ".orvan-neu";
+constexpr std::string_view TemporaryEnding = ".orvan-neu";
 
 std::error_code WriteAll(const FileLayer& files, FileLayer::Handle handle, std::string_view bytes) {
     while (!bytes.empty()) {
@@ -28,7 +28,7 @@ std::error_code CreateTemporary(const FileLayer& files, const fs::path& target, 
     std::error_code error;
     for (int i = 0; i < limit; ++i) {
         temporary = target;
-        temporary += TemporaryEnding + std::to_string(i);
+        temporary += std::string(TemporaryEnding) + std::to_string(i);
         error = files.createNew(temporary, handle);
         if (error != std::errc::file_exists)
             break;
@@ -37,43 +37,24 @@ std::error_code CreateTemporary(const FileLayer& files, const fs::path& target, 
 }
 
 bool IsTemporary(const fs::path& file) {
-    return file.extension().string().starts_with(TemporaryEnding);
-}
-
-// The temporary files in the folder; of another folder only those of the target of a link.
-std::vector<fs::path> FindStrays(const fs::path& folder) {
-    std::vector<fs::path> strays;
-    for (const fs::path& file : EntriesOf(folder)) {
-        if (IsTemporary(file))
-            strays.push_back(file);
-        std::error_code error;
-        const fs::path target = FollowLinks(file, error);
-        if (error || target == file)
-            continue;
-        for (const fs::path& beside : EntriesOf(target.parent_path()))
-            if (IsTemporary(beside) && beside.stem() == target.filename())
-                strays.push_back(beside);
-    }
-    return strays;
+    const std::u8string ending = file.extension().u8string();
+    return ending.size() > TemporaryEnding.size() &&
+           std::equal(TemporaryEnding.begin(), TemporaryEnding.end(), ending.begin()) &&
+           std::all_of(ending.begin() + static_cast<std::ptrdiff_t>(TemporaryEnding.size()),
+                       ending.end(), [](char8_t c) { return c >= u8'0' && c <= u8'9'; });
 }
 
 } // namespace
 
-fs::path FollowLinks(fs::path file, std::error_code& error) {
-    constexpr int limit = 40;
-    for (int i = 0; i < limit; ++i) {
-        const fs::file_status status = fs::symlink_status(file, error);
-        if (fs::status_known(status))
-            error.clear(); // a file that is not there is none of the failures
-        if (error || !fs::is_symlink(status))
-            return file;
-        const fs::path target = fs::read_symlink(file, error);
-        if (error)
-            return file;
-        file = file.parent_path() / target;
-    }
-    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-    return file;
+bool IsTemporaryOf(const fs::path& target, const fs::path& temporary) {
+    return IsTemporary(temporary) && temporary.stem() == target;
+}
+
+std::error_code WriteAndClose(const FileLayer& files, FileLayer::Handle handle,
+                              std::string_view bytes) {
+    const std::error_code error = WriteAll(files, handle, bytes);
+    const std::error_code closing = files.close(handle);
+    return error ? error : closing;
 }
 
 std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
@@ -81,10 +62,7 @@ std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
     FileLayer::Handle handle = 0;
     if (const auto error = CreateTemporary(files, target, temporary, handle))
         return error;
-    std::error_code error = WriteAll(files, handle, contents);
-    const std::error_code closing = files.close(handle);
-    if (!error)
-        error = closing;
+    std::error_code error = WriteAndClose(files, handle, contents);
     if (!error && replaces)
         error = files.copyMode(target, temporary);
     if (error)
@@ -93,9 +71,10 @@ std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
 }
 
 std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
-    for (const fs::path& stray : FindStrays(folder))
-        if (const auto error = files.remove(stray))
-            return FileFailure{stray, error};
+    for (const fs::path& file : files.entries(folder))
+        if (IsTemporary(file))
+            if (const auto error = files.remove(file))
+                return FileFailure{file, error};
     return std::nullopt;
 }
 

@@ -1,11 +1,12 @@
 #include "frame/frmEmporiumMain.h"
 
-#include "files/FileWriting.h"
+#include "files/Links.h"
 #include "files/Temporaries.h"
 #include "frame/Version.h"
 #include "itemeditor/CategoryChoice.h"
 #include "shopeditor/ShopList.h"
 #include "store/ArsenalImport.h"
+#include "store/WriteTurn.h"
 
 namespace emporium {
 
@@ -42,30 +43,33 @@ std::string NoWritingText(const Platform& platform, const std::filesystem::path&
 }
 
 // A program started within an archive stands there alone. Empty if its data are there.
-std::string NoDataText(const Folders& folders) {
-    std::error_code unknown;
-    if (std::filesystem::is_directory(StatusOf(folders.EmporiumFolder(), unknown)) || unknown)
+std::string NoDataText(const Disk& disk) {
+    const FileStatus status = StatusBehindLinks(disk.files, disk.folders.EmporiumFolder());
+    if (status.kind == FileStatus::Kind::Folder || status.reason)
         return {};
     return std::string(
                "Neben dem Programm fehlt der Ordner Data. Habt ihr das Archiv noch nicht "
                "entpackt, so entpackt es zuerst ganz und startet das Programm im entpackten "
                "Ordner. Wollt ihr es an einen anderen Ort bringen, so kopiert immer den ganzen "
                "Ordner.\n\nGesucht wurde: "_ansi) +
-           FromPath(folders.EmporiumFolder());
+           FromPath(disk.folders.EmporiumFolder());
 }
 
 // While an interrupted write can't be finished, nothing is written on top of it.
-void BringUpToDate(const Platform& platform, std::vector<std::string>& faults) {
-    if (const auto failure =
-            FinishInterruptedWrites(platform.disk.files, platform.disk.folders.EmporiumFolder())) {
-        faults.push_back(FaultLine(*failure));
+void BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
+    const WriteTurn turn = TakeTurn(disk);
+    faults.insert(faults.end(), turn.notices.begin(), turn.notices.end());
+    if (!turn.refusal.empty()) {
+        faults.push_back(turn.refusal);
         return;
     }
+    if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))
+        faults.push_back(FaultLine(*failure));
     // Half a page that stays because it can't be removed does no harm.
-    for (const auto& pages : {platform.disk.folders.HtmlFolder, platform.disk.folders.TempFolder})
-        RemoveStrays(platform.disk.files, pages);
-    RenameOldCategoryFiles(platform.disk, faults);
-    ImportArsenal(platform.disk, faults);
+    for (const auto& pages : {disk.folders.HtmlFolder, disk.folders.TempFolder})
+        static_cast<void>(RemoveStrays(disk.files, pages));
+    RenameOldCategoryFiles(disk, faults);
+    ImportArsenal(disk, faults);
 }
 
 } // namespace
@@ -73,16 +77,16 @@ void BringUpToDate(const Platform& platform, std::vector<std::string>& faults) {
 bool StartUp(frmEmporiumMain& window, const Platform& platform) {
     std::vector<std::string> faults;
     const Folders& folders = platform.disk.folders;
-    window.claim = ClaimFolder(folders.EmporiumFolder());
+    window.claim = platform.disk.files.claim(folders.EmporiumFolder());
     if (window.claim.takenElsewhere && !AskDespiteOtherCopy(platform))
         return false;
-    std::string notice = NoDataText(folders);
+    std::string notice = NoDataText(platform.disk);
     const bool hasData = notice.empty();
     if (hasData)
         notice = NoWritingText(platform, folders.EmporiumFolder(), NoChanges);
     // What another copy is just writing looks like something to be finished.
     if (notice.empty() && !window.claim.takenElsewhere)
-        BringUpToDate(platform, faults);
+        BringUpToDate(platform.disk, faults);
     if (notice.empty())
         notice = NoWritingText(platform, folders.TempFolder, NoPrinting);
     ReadCategoryList(window.items, platform.disk, faults);

@@ -33,17 +33,18 @@ std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string
     return types;
 }
 
-IniFile ReadGeneratorConfig(const Disk& disk, std::vector<std::string>& faults) {
-    return IniFile(ReadConfigFile(disk, "ShopgeneratorConfig.dat", faults).bytes);
+IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
+                          std::vector<std::string>& faults) {
+    return {ReadConfigFile(disk, "ShopgeneratorConfig.dat", faults).bytes, shopType};
 }
 
-std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType) {
-    const auto number = ReadGermanNumber(config.Value(shopType, "WareCount"));
+std::optional<std::int16_t> ReadWareCount(const IniSection& type) {
+    const auto number = ReadGermanNumber(type.Value("WareCount"));
     return number ? std::optional(RoundToInt16(*number)) : std::nullopt;
 }
 
-std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n) {
-    return config.Value(shopType, "Ware" + std::to_string(n));
+std::string ReadWareCategory(const IniSection& type, std::int16_t n) {
+    return type.Value("Ware" + std::to_string(n));
 }
 
 } // namespace emporium

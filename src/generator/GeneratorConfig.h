@@ -2,8 +2,7 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "base/Subs.h"
-#include "files/FileLayer.h"
+#include "base/IniFile.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,15 +16,16 @@ namespace emporium {
 /// to `faults` what could not be read, or that the file is empty; a missing one gives no types.
 std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string>& faults);
 
-/// The file that tells which categories a type draws on; empty if it can't be read, which is
-/// added to `faults`.
-IniFile ReadGeneratorConfig(const Disk& disk, std::vector<std::string>& faults);
+/// What the configuration tells of a type; nothing if it can't be read, which is added to
+/// `faults`.
+IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
+                          std::vector<std::string>& faults);
 
 /// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing
 /// if the file does not tell it or tells no number.
-std::optional<std::int16_t> ReadWareCount(const IniFile& config, std::string_view shopType);
+std::optional<std::int16_t> ReadWareCount(const IniSection& type);
 
 /// The category of number n, from 1, empty if the type names none.
-std::string ReadWareCategory(const IniFile& config, std::string_view shopType, std::int16_t n);
+std::string ReadWareCategory(const IniSection& type, std::int16_t n);
 
 } // namespace emporium

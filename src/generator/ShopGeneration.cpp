@@ -1,13 +1,18 @@
 #include "generator/ShopGeneration.h"
 
+#include "base/Subs.h"
 #include "files/FileFailure.h"
 #include "generator/GeneratorConfig.h"
+#include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
+#include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
+#include <utility>
 
 namespace emporium {
 
@@ -46,47 +51,78 @@ bool PassesRegion(std::string_view availability, std::string_view region, const 
     return RollDice(20) < 20 - 3 * NearestDistance(availability, region);
 }
 
-// Draws from one category into the shop, without regard to the list's order. False if the shop is
-// full.
-bool DrawCategory(RecordReader& reader, const ShopWishes& wishes, const Die& RollDice,
-                  ShopEditor& shop) {
+// A category's text. One that is named again is not read again, and its faults are told once.
+class Categories {
+public:
+    Categories(const Disk& disk, std::vector<std::string>& faults) : disk_(disk), faults_(faults) {}
+
+    SharedText Text(const std::string& name) {
+        SharedText& text = texts_[name];
+        if (!text)
+            text = std::make_shared<const std::string>(Read(name));
+        return text;
+    }
+
+private:
+    std::string Read(const std::string& name) {
+        const auto file = CategoryPath(disk_.folders, name);
+        if (!IsPlainName(name) || !FileExists(disk_.files, file))
+            return {};
+        FileText category = disk_.files.read(file);
+        if (category.state == FileText::State::Unreadable)
+            faults_.push_back(FaultLine({file, category.reason}));
+        return std::move(category.bytes);
+    }
+
+    const Disk& disk_;
+    std::vector<std::string>& faults_;
+    std::unordered_map<std::string, SharedText> texts_;
+};
+
+void AddOnce(std::vector<std::string>& faults, std::string fault) {
+    if (std::find(faults.begin(), faults.end(), fault) == faults.end())
+        faults.push_back(std::move(fault));
+}
+
+// Draws from one category into the shop, without regard to the list's order.
+enum class Drawn { All, CutOff, ShopIsFull };
+
+Drawn DrawCategory(const SharedText& text, const ShopWishes& wishes, const Die& RollDice,
+                   ShopEditor& shop) {
+    RecordReader reader(*text);
     for (RecordView record; reader.Next(record);) {
         if (!DrawRecord(record, wishes, RollDice))
             continue;
         if (ShopIsFull(shop))
-            return false;
-        shop.lvLaden.rows.push_back(MakeShopRow(record[NameField], record[WeightField],
-                                                record[PriceField], record[AvailabilityField]));
+            return Drawn::ShopIsFull;
+        shop.lvLaden.rows.push_back(MakeShopRow(record, text));
     }
-    return true;
+    return reader.CutOff() ? Drawn::CutOff : Drawn::All;
 }
 
 void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform,
               std::vector<std::string>& faults) {
-    const std::string shopType = dialog.cmbShopBeruf.Text();
     const std::string region = dialog.cmbShopRegion.Text();
-    const ShopWishes wishes{dialog.cmbShopQualität.Text().front() - '0',
-                            dialog.chkShopRegion.ticked, region};
-    const IniFile config = ReadGeneratorConfig(platform.disk, faults);
-    const auto count = ReadWareCount(config, shopType);
+    const ShopWishes wishes{dialog.cmbShopQualität.Selection() + 1, dialog.chkShopRegion.ticked,
+                            region};
+    const IniSection type = ReadTypeConfig(platform.disk, dialog.cmbShopBeruf.Text(), faults);
+    const auto count = ReadWareCount(type);
     if (!count && faults.empty())
         faults.emplace_back("ShopgeneratorConfig.dat: Zu dieser Shopart fehlt die Zeile WareCount, "
                             "oder sie nennt keine Zahl.");
+    Categories categories(platform.disk, faults);
     for (int n = 1; n <= count.value_or(0); ++n) {
-        const auto name = ReadWareCategory(config, shopType, static_cast<std::int16_t>(n));
-        const auto file = CategoryPath(platform.disk.folders, name);
-        if (!IsPlainName(name) || !FileExists(file))
-            continue;
-        const FileText category = platform.disk.files.read(file);
-        if (category.state == FileText::State::Unreadable)
-            faults.push_back(FaultLine({file, category.reason}));
-        RecordReader reader(category.bytes);
-        if (!DrawCategory(reader, wishes, platform.RollDice, shop)) {
+        const std::string name = ReadWareCategory(type, static_cast<std::int16_t>(n));
+        switch (DrawCategory(categories.Text(name), wishes, platform.RollDice, shop)) {
+        case Drawn::All:
+            break;
+        case Drawn::CutOff:
+            AddOnce(faults, std::string(name).append(".dat: ").append(RecordIsCutOff));
+            break;
+        case Drawn::ShopIsFull:
             faults.emplace_back(ShopFullText);
             return;
         }
-        if (reader.CutOff())
-            faults.push_back(std::string(name).append(".dat: ").append(RecordIsCutOff));
     }
 }
 

@@ -3,9 +3,7 @@
 #pragma once
 
 #include "base/Platform.h"
-#include "base/Variablen.h"
 #include "generator/frmEmporiumGenerator.h"
-#include "regions/AtlasEngine.h"
 #include "shopeditor/ShopEditor.h"
 #include "store/CategoryFiles.h"
 
@@ -24,9 +22,10 @@ struct ShopWishes {
 /// digit 1 to 5 never passes, nor does one without a region if the region counts.
 bool DrawRecord(const RecordView& record, const ShopWishes& wishes, const Die& RollDice);
 
-/// Fills the emptied shop from the dialog's choices, hands these over to the shop's fields and
-/// closes the dialog. Categories without a file are passed over; what can't be read, and a shop
-/// that is full, is told in one box.
+/// Fills the emptied shop from the dialog's choices, of which type, prices and quality must have
+/// been made, and the region if it counts (see UpdateStartButton). Hands the choices over to the
+/// shop's fields and closes the dialog. Categories without a file are passed over; what can't be
+/// read, and a shop that is full, is told in one box.
 void GenerateShop(frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform);
 
 } // namespace emporium

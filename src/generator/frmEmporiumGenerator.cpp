@@ -2,16 +2,17 @@
 
 #include "files/FileFailure.h"
 #include "generator/GeneratorConfig.h"
+#include "regions/AtlasEngine.h"
+#include "shopeditor/ShopLevels.h"
 #include "shopeditor/ShopList.h"
-#include "shopeditor/ShopPricing.h"
 
 namespace emporium {
 
 frmEmporiumGenerator::frmEmporiumGenerator()
     : cmbShopPreise(ChoiceList::Order::AsAdded, PriceLevelNames()),
-      cmbShopQualität(ChoiceList::Order::AsAdded, {"1 - Schlecht", "2 - Einfach", "3 - Solide",
-                                                   "4 - Sehr gut", "5 - Spezialist"}),
       cmbShopRegion(ChoiceList::Order::AsAdded, AlphabeticalRegionCodes()) {
+    for (std::size_t place = 0; place < Qualities.size(); ++place)
+        cmbShopQualität.Add(std::to_string(place + 1).append(" - ").append(Qualities[place]));
     cmbShopRegion.enabled = false;
     cmdStart.enabled = false;
 }

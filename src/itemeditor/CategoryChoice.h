@@ -1,5 +1,4 @@
-// The user's handle on the item store: choosing a category, or all of them, as the view; creating a
-// category and deleting one.
+// Which records are on show: the view of one category, or of all of them.
 #pragma once
 
 #include "base/Platform.h"
@@ -9,7 +8,13 @@
 
 namespace emporium {
 
-/// Reads the category list into CategoryNames and both drop-down lists; start-up only. Adds to
+/// Shows the names in both drop-down lists; an entry that is chosen stays so if it is still there.
+void SetCategoryNames(ItemEditor& editor, const std::vector<std::string>& names);
+
+/// Empties the view; nothing of the form.
+void ResetView(ItemEditor& editor);
+
+/// Reads the category list into both drop-down lists; start-up only. Adds to
 /// `faults` what could not be read.
 void ReadCategoryList(ItemEditor& editor, const Disk& disk, std::vector<std::string>& faults);
 
@@ -25,24 +30,8 @@ void LoadItems(ItemEditor& editor, const Platform& platform);
 /// is chosen then.
 void ReloadItems(ItemEditor& editor, const Platform& platform);
 
-/// Carries out what an earlier write announced but could not finish. Precedes every reading of what
-/// is to be rewritten. False, after a box, if it fails again.
-bool ReadyToWrite(const Platform& platform);
-
 /// Ties buttons to the view's having records.
 void UpdateItemButtons(ItemEditor& editor);
-
-/// Asks for a name until it can be used, and creates an empty category of that name. The view
-/// stays. A category whose file can't be written does not enter the lists. What another program has
-/// put into the list file or taken out enters or leaves the lists as well; a list file with a fault
-/// is not changed.
-void NewCategory(ItemEditor& editor, const Platform& platform);
-
-/// Deletes the chosen category, after a question. It must be empty and not a fixed one, which is
-/// what enables the button. A file that could not be read whole, or that is no longer empty, is
-/// refused with a box, and so is a list file with a fault. If the files can't be written nothing
-/// changes.
-void DeleteCategory(ItemEditor& editor, const Platform& platform);
 
 /// The index of the view's file of that category, -1 if the view has none.
 int ViewFileOf(const ItemEditor& editor, std::string_view category);

@@ -21,6 +21,12 @@ struct ViewFile {
     bool canBeWritten = true; // false if the view does not hold all of it
 };
 
+/// A record of the view, within the bytes of its file.
+struct ItemRow {
+    RecordView record;
+    int home = 0; // the index of its file in viewFiles
+};
+
 /// The item list. A row is the index of its record in Items; the rows stand in the sort order.
 struct ItemListView {
     std::vector<int> rows;
@@ -33,11 +39,8 @@ struct ItemListView {
 struct ItemEditor {
     ItemEditor();
 
-    std::vector<std::string> CategoryNames; // in the order of the list file
-
     std::vector<ViewFile> viewFiles;
-    std::vector<RecordView> Items;       // within the bytes of viewFiles
-    std::vector<int> ItemHomeCategories; // for each item the index of its file in viewFiles
+    std::vector<ItemRow> Items;
 
     int CurrentItemRow = -1; // index in Items, also the list's chosen row; -1 for none
     bool EditingExisting = false;
@@ -59,9 +62,9 @@ struct ItemEditor {
 
     int ItemCount() const { return static_cast<int>(Items.size()); }
 
-    const RecordView& Record(int row) const { return Items[static_cast<std::size_t>(row)]; }
+    const RecordView& Record(int row) const { return Items[static_cast<std::size_t>(row)].record; }
 
-    int HomeOf(int row) const { return ItemHomeCategories[static_cast<std::size_t>(row)]; }
+    int HomeOf(int row) const { return Items[static_cast<std::size_t>(row)].home; }
 
     const ViewFile& FileAt(int home) const { return viewFiles[static_cast<std::size_t>(home)]; }
 };

@@ -14,7 +14,7 @@ std::string_view ItemCell(const RecordView& record, int column) {
 void FillItemList(ItemEditor& editor) {
     auto& list = editor.lvGegenstände;
     list.rows = GermanOrderOf(editor.Items.size(), list.sort.descending, [&](std::size_t row) {
-        return ItemCell(editor.Items[row], list.sort.column);
+        return ItemCell(editor.Items[row].record, list.sort.column);
     });
     ++list.revision;
 }

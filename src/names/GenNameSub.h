@@ -1,8 +1,8 @@
 // Owner names by the naming custom of a race, drawn from the word lists below "Borough".
 #pragma once
 
+#include "base/Dice.h"
 #include "base/Disk.h"
-#include "base/Subs.h"
 #include "files/FileFailure.h"
 #include "files/FileLayer.h"
 

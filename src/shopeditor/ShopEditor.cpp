@@ -1,6 +1,7 @@
 #include "shopeditor/ShopEditor.h"
 
-#include "shopeditor/ShopPricing.h"
+#include "regions/AtlasEngine.h"
+#include "shopeditor/ShopLevels.h"
 
 namespace emporium {
 
@@ -9,8 +10,7 @@ ShopEditor::ShopEditor()
                                             "Norbarden", "Thorwaler", "Tulamiden", "Zwerge"}),
       cmbShopRegion(ChoiceList::Order::AsAdded, AlphabeticalRegionCodes()),
       cmbShopPreise(ChoiceList::Order::AsAdded, PriceLevelNames()),
-      cmbShopQualität(ChoiceList::Order::AsAdded,
-                      {"Schlecht", "Einfach", "Solide", "Sehr gut", "Spezialist"}) {
+      cmbShopQualität(ChoiceList::Order::AsAdded, {Qualities.begin(), Qualities.end()}) {
     cmdShopAnzahl.enabled = cmdShopDelete.enabled = false;
     cmdGenName.enabled = false;
     cmbShopPreise.enabled = false;

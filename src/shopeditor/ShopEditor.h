@@ -1,34 +1,37 @@
 // The shop: its wares, its descriptive fields and the controls that show them. It lives for one run
-// of the program and leaves it only as a document. The operations are in ShopList and ShopPricing.
+// of the program and leaves it only as a document. The operations are in ShopList, ShopPricing
+// and ShopFields.
 #pragma once
 
 #include "base/Controls.h"
-#include "regions/AtlasEngine.h"
+#include "store/CategoryFiles.h"
 
 #include <cstdint>
-#include <deque>
-#include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace emporium {
 
-/// A ware: what the list shows, and what it keeps beyond that. A copy of an item's record, which
-/// later changes of the item do not reach.
+/// A ware. A copy of an item's record, which later changes of the item do not reach: the views lie
+/// within bytes that the row keeps alive. Two prices are needed: one that the list shows, by level
+/// or by hand, and the base from which every level starts again.
 struct ShopRow {
-    std::string Text;   // the name, with a quantity once one was given
-    std::string Weight; // in Unzen, without a unit
-    std::string Price;  // a number and the unit
-
+    SharedText bytes;
+    std::string_view ShopItemLine; // the name with the Wert digit behind it
+    std::string_view Weight;       // in Unzen, without a unit
+    std::string_view Unit;         // the letter of the price, empty if the item has no price
+    std::string_view ShopAvailability;
     std::int16_t ShopBasePrice = 0; // whole, without unit and price level
-    std::string Unit;               // the letter of the price, empty if the item has no price
-    std::string ShopItemLine;       // the name with the Wert digit behind it
-    std::string ShopAvailability;
+
+    std::string Price;        // as shown: a number and the unit
+    std::string WithQuantity; // as shown once a quantity was given, else empty: see ShopCell
 };
 
 enum ShopColumn { ShopTextColumn, ShopPriceColumn };
 
 struct ShopListView {
-    std::deque<std::unique_ptr<ShopRow>> rows; // in the order of the list
+    std::vector<ShopRow> rows; // in the order of the list
     ListSort sort;
     int current = -1; // -1 for none
     std::string toolTip;

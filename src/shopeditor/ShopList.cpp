@@ -9,23 +9,17 @@ namespace emporium {
 
 namespace {
 
-using Rows = decltype(ShopListView::rows);
+using Rows = std::vector<ShopRow>;
 
-ShopRow* CurrentRow(const ShopEditor& shop) {
-    const auto& list = shop.lvLaden;
-    return list.current < 0 ? nullptr : list.rows[static_cast<std::size_t>(list.current)].get();
-}
-
-int PlaceOf(const Rows& rows, const ShopRow* row) {
-    const auto found =
-        std::find_if(rows.begin(), rows.end(), [row](const auto& r) { return r.get() == row; });
-    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+ShopRow* CurrentRow(ShopEditor& shop) {
+    auto& list = shop.lvLaden;
+    return list.current < 0 ? nullptr : &list.rows[static_cast<std::size_t>(list.current)];
 }
 
 Rows::iterator SortedPlace(ShopListView& list, const ShopRow& row) {
-    const auto before = [&list](const ShopRow& left, const std::unique_ptr<ShopRow>& right) {
+    const auto before = [&list](const ShopRow& left, const ShopRow& right) {
         const auto a = ShopCell(left, list.sort.column);
-        const auto b = ShopCell(*right, list.sort.column);
+        const auto b = ShopCell(right, list.sort.column);
         return list.sort.descending ? GermanLess(b, a) : GermanLess(a, b);
     };
     return std::upper_bound(list.rows.begin(), list.rows.end(), row, before);
@@ -38,29 +32,41 @@ void PlaceCurrentRow(ShopListView& list, int column) {
         return;
     auto row = std::move(list.rows[static_cast<std::size_t>(list.current)]);
     list.rows.erase(list.rows.begin() + list.current);
-    const auto place = SortedPlace(list, *row);
+    const auto place = SortedPlace(list, row);
     list.current = static_cast<int>(place - list.rows.begin());
     list.rows.insert(place, std::move(row));
 }
 
 } // namespace
 
-std::unique_ptr<ShopRow> MakeShopRow(std::string_view nameLine, std::string_view weight,
-                                     std::string_view price, std::string_view availability) {
-    auto row = std::make_unique<ShopRow>();
-    row->Text = WithoutLast(nameLine);
-    row->Weight = weight;
-    row->Price = price;
-    row->ShopBasePrice = RoundToInt16(ReadGermanNumber(WithoutLast(price)).value_or(0));
-    row->Unit = price.substr(WithoutLast(price).size());
-    row->ShopItemLine = nameLine;
-    row->ShopAvailability = availability;
+ShopRow MakeShopRow(const RecordView& record, SharedText bytes) {
+    const std::string_view price = record[PriceField];
+    const std::string_view number = WithoutLast(price);
+    ShopRow row;
+    row.bytes = std::move(bytes);
+    row.ShopItemLine = record[NameField];
+    row.Weight = record[WeightField];
+    row.Unit = price.substr(number.size());
+    row.ShopAvailability = record[AvailabilityField];
+    row.ShopBasePrice = RoundToInt16(ReadGermanNumber(number).value_or(0));
+    row.Price = price;
     return row;
 }
 
-void AddShopRow(ShopEditor& shop, std::unique_ptr<ShopRow> row) {
+ShopRow MakeShopRow(const RecordView& record) {
+    std::string text;
+    for (const std::string_view field : record)
+        text += field;
+    const auto bytes = std::make_shared<const std::string>(std::move(text));
+    RecordView copy;
+    for (std::size_t field = 0, begin = 0; field < copy.size(); begin += record[field++].size())
+        copy[field] = std::string_view(*bytes).substr(begin, record[field].size());
+    return MakeShopRow(copy, bytes);
+}
+
+void AddShopRow(ShopEditor& shop, ShopRow row) {
     auto& list = shop.lvLaden;
-    const auto place = SortedPlace(list, *row);
+    const auto place = SortedPlace(list, row);
     if (place - list.rows.begin() <= list.current)
         ++list.current;
     list.rows.insert(place, std::move(row));
@@ -78,9 +84,7 @@ void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& pl
         platform.ShowMessage(ShopFullText);
         return;
     }
-    const RecordView& record = items.Record(items.CurrentItemRow);
-    AddShopRow(shop, MakeShopRow(record[NameField], record[WeightField], record[PriceField],
-                                 record[AvailabilityField]));
+    AddShopRow(shop, MakeShopRow(items.Record(items.CurrentItemRow)));
     UpdateShopButtons(shop);
 }
 
@@ -103,7 +107,7 @@ void SetShopRowQuantity(ShopEditor& shop, const Platform& platform) {
     ShopRow* row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
-    row->Text = std::string(WithoutLast(row->ShopItemLine)) + " (x" + answer + ")";
+    row->WithQuantity = std::string(WithoutLast(row->ShopItemLine)) + " (x" + answer + ")";
     PlaceCurrentRow(shop.lvLaden, ShopTextColumn);
 }
 
@@ -114,14 +118,14 @@ void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
     ShopRow* row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
-    row->Price = answer + row->Unit;
+    row->Price = std::string(answer).append(row->Unit);
     PlaceCurrentRow(shop.lvLaden, ShopPriceColumn);
 }
 
 void ChooseShopRow(ShopEditor& shop, int row) {
     shop.lvLaden.current = row;
     if (const ShopRow* current = CurrentRow(shop))
-        shop.lvLaden.toolTip = current->Text;
+        shop.lvLaden.toolTip = ShopCell(*current, ShopTextColumn);
 }
 
 void ClearShop(ShopEditor& shop) {
@@ -148,21 +152,25 @@ void SortShopList(ShopEditor& shop, int column) {
 
 void ArrangeShopList(ShopEditor& shop) {
     auto& list = shop.lvLaden;
-    const ShopRow* current = CurrentRow(shop);
     const auto order =
         GermanOrderOf(list.rows.size(), list.sort.descending, [&list](std::size_t row) {
-            return ShopCell(*list.rows[row], list.sort.column);
+            return ShopCell(list.rows[row], list.sort.column);
         });
     Rows arranged;
+    arranged.reserve(order.size());
     for (const int row : order)
         arranged.push_back(std::move(list.rows[static_cast<std::size_t>(row)]));
     list.rows = std::move(arranged);
-    list.current = current ? PlaceOf(list.rows, current) : -1;
+    if (list.current >= 0)
+        list.current =
+            static_cast<int>(std::find(order.begin(), order.end(), list.current) - order.begin());
     ++list.revision;
 }
 
 std::string_view ShopCell(const ShopRow& row, int column) {
-    return column == ShopPriceColumn ? row.Price : row.Text;
+    if (column == ShopPriceColumn)
+        return row.Price;
+    return row.WithQuantity.empty() ? WithoutLast(row.ShopItemLine) : row.WithQuantity;
 }
 
 } // namespace emporium

@@ -11,13 +11,15 @@
 
 namespace emporium {
 
-/// A ware of the four lines of an item record. Its price is shown as it comes; the base price is
-/// 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
-std::unique_ptr<ShopRow> MakeShopRow(std::string_view nameLine, std::string_view weight,
-                                     std::string_view price, std::string_view availability);
+/// A ware of an item's record, which lies within the bytes. Its price is shown as it comes; the
+/// base price is 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
+ShopRow MakeShopRow(const RecordView& record, SharedText bytes);
+
+/// The same with bytes of its own, so that a single ware does not keep the whole of its file.
+ShopRow MakeShopRow(const RecordView& record);
 
 /// Adds a ware at its sorted place. The shop must have room, see ShopIsFull.
-void AddShopRow(ShopEditor& shop, std::unique_ptr<ShopRow> row);
+void AddShopRow(ShopEditor& shop, ShopRow row);
 
 /// True if the shop holds as many wares as it can.
 bool ShopIsFull(const ShopEditor& shop);

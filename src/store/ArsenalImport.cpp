@@ -104,13 +104,15 @@ void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& f
     if (added.empty())
         return;
     const auto file = CategoryPath(disk.folders, name);
-    if (const auto failure = WriteFile(disk.files, file, WithRecords(*category.bytes, added)))
-        faults.push_back(FaultLine(*failure));
+    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(),
+                                   {{file, WithRecords(*category.bytes, added)}});
+    if (result.failure)
+        faults.push_back(FaultLine(*result.failure));
 }
 
 void RenameOldFile(const Disk& disk, std::string_view name, std::vector<std::string>& faults) {
     const auto older = CategoryPath(disk.folders, std::string("Emporium").append(name));
-    if (!FileExists(older))
+    if (!FileExists(disk.files, older))
         return;
     const FileText text = disk.files.read(older);
     if (text.state == FileText::State::Absent)
@@ -119,11 +121,11 @@ void RenameOldFile(const Disk& disk, std::string_view name, std::vector<std::str
         faults.push_back(FaultLine({older, text.reason}));
         return;
     }
-    const auto failure =
+    const auto result =
         WriteFiles(disk.files, disk.folders.EmporiumFolder(),
                    {{CategoryPath(disk.folders, name), text.bytes}, {older, std::nullopt}});
-    if (failure)
-        faults.push_back(FaultLine(*failure));
+    if (result.failure)
+        faults.push_back(FaultLine(*result.failure));
 }
 
 } // namespace

@@ -46,6 +46,18 @@ std::string RecordText(const RecordView& record, std::string_view lineEnd) {
     return text;
 }
 
+// The bytes up to the end of the last whole record; empty lines behind it hold nothing.
+std::string_view WholeRecords(std::string_view bytes) {
+    RecordReader reader(bytes);
+    std::size_t end = 0;
+    for (RecordView record; reader.Next(record);) {
+        const std::string_view last = record.back();
+        const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
+        end = std::min(bytes.find('\n', lastEnd), bytes.size() - 1) + 1;
+    }
+    return bytes.substr(0, end);
+}
+
 // The bytes before the record, and those behind the end of its last line.
 std::pair<std::string_view, std::string_view> AroundRecord(std::string_view bytes,
                                                            const RecordView& place) {
@@ -147,8 +159,8 @@ std::string CategoryListFault(const CategoryList& list) {
     if (list.state != FileText::State::Whole)
         return std::string(file) + ReasonText(list.reason);
     const auto count = CountIn(list.bytes);
-    if (count == static_cast<double>(list.names.size()))
-        return {};
+    if (count && *count >= 0 && *count <= static_cast<double>(list.names.size()))
+        return {}; // names that are not counted are names all the same
     const std::string counted =
         count ? std::string("Die erste Zeile zählt "_ansi) + GermanNumberText(*count)
               : "In der ersten Zeile fehlt die Zahl der";
@@ -186,11 +198,11 @@ bool HasMark(const RecordView& record, ItemField field) {
 }
 
 bool RecordReader::Next(RecordView& record) {
-    for (std::size_t field = 0; field < record.size(); ++field)
-        if (!lines_.Next(record[field])) {
-            cutOff_ = cutOff_ || field > 0;
+    for (std::size_t field = 0; field < record.size(); ++field) {
+        if (!lines_.Next(record[field]))
             return false;
-        }
+        cutOff_ = (cutOff_ || !record[field].empty()) && field + 1 < record.size();
+    }
     return true;
 }
 
@@ -210,7 +222,7 @@ CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name) {
 
 std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& records) {
     const std::string_view lineEnd = LineEndOf(bytes);
-    std::string text(bytes);
+    std::string text(WholeRecords(bytes));
     EndLastLine(text, lineEnd);
     for (const ItemRecord& record : records)
         text += RecordText(ViewOf(record), lineEnd);
@@ -219,12 +231,12 @@ std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& r
 
 std::string WithRecordAt(std::string_view bytes, const RecordView& place,
                          const ItemRecord& record) {
-    const auto [before, behind] = AroundRecord(bytes, place);
+    const auto [before, behind] = AroundRecord(WholeRecords(bytes), place);
     return std::string(before) + RecordText(ViewOf(record), LineEndOf(bytes)) + std::string(behind);
 }
 
 std::string WithoutRecordAt(std::string_view bytes, const RecordView& place) {
-    const auto [before, behind] = AroundRecord(bytes, place);
+    const auto [before, behind] = AroundRecord(WholeRecords(bytes), place);
     return std::string(before) + std::string(behind);
 }
 

@@ -47,7 +47,7 @@ public:
     /// The next whole record; false behind the last one.
     bool Next(RecordView& record);
 
-    /// True if lines were left over behind the last whole record.
+    /// True if lines that are not empty were left over behind the last whole record.
     bool CutOff() const { return cutOff_; }
 
 private:

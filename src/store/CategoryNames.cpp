@@ -20,11 +20,10 @@ bool HasGoodForm(std::string_view name) {
 // A file whose name differs at most in case; on Windows that is the same file.
 bool FileStands(const Disk& disk, std::string_view name) {
     const std::filesystem::path file = CategoryPath(disk.folders, name);
-    std::error_code unknown;
-    if (std::filesystem::exists(StatusOf(file, unknown)))
+    if (disk.files.status(file).kind != FileStatus::Kind::Absent)
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
-    const auto entries = EntriesOf(disk.folders.EmporiumFolder());
+    const auto entries = disk.files.entries(disk.folders.EmporiumFolder());
     return std::any_of(entries.begin(), entries.end(), [&wanted](const auto& entry) {
         return FoldCase(FromPath(entry.filename())) == wanted;
     });

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <numeric>
 
 namespace emporium {
@@ -52,68 +51,13 @@ constexpr Weights PrimaryWeights = [] {
     return weights;
 }();
 
-void AppendSortKey(std::string& key, std::string_view text) {
+std::string SortKey(std::string_view text) {
+    std::string key;
+    key.reserve(2 * text.size() + 1);
     for (const char c : text)
         key += PrimaryWeights[static_cast<unsigned char>(c)];
     key += '\0';
-    key += text;
-}
-
-// The keys of many texts, one behind the other in a single string.
-class SortKeys {
-public:
-    SortKeys(std::size_t count, const std::function<std::string_view(std::size_t)>& textAt) {
-        ends_.reserve(count + 1);
-        ends_.push_back(0);
-        for (std::size_t i = 0; i < count; ++i) {
-            AppendSortKey(bytes_, textAt(i));
-            ends_.push_back(bytes_.size());
-        }
-    }
-
-    std::string_view operator[](std::size_t i) const {
-        return std::string_view(bytes_).substr(ends_[i], ends_[i + 1] - ends_[i]);
-    }
-
-    std::size_t Count() const { return ends_.size() - 1; }
-
-    /// How many bytes all keys begin with alike.
-    std::size_t SharedLength() const {
-        std::size_t shared = Count() > 0 ? (*this)[0].size() : 0;
-        for (std::size_t i = 1; i < Count(); ++i) {
-            const auto [mine, first] =
-                std::mismatch((*this)[i].begin(), (*this)[i].end(), bytes_.begin(),
-                              bytes_.begin() + Offset(shared));
-            shared = static_cast<std::size_t>(first - bytes_.begin());
-        }
-        return shared;
-    }
-
-private:
-    static std::ptrdiff_t Offset(std::size_t size) { return static_cast<std::ptrdiff_t>(size); }
-
-    std::string bytes_;
-    std::vector<std::size_t> ends_;
-};
-
-// The eight bytes of a key behind what all keys share, as a number in the same order: most
-// comparisons end there.
-std::uint64_t Prefix(std::string_view key, std::size_t shared) {
-    std::uint64_t prefix = 0;
-    for (std::size_t i = shared; i < shared + 8; ++i)
-        prefix = (prefix << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-    return prefix;
-}
-
-struct Entry {
-    std::uint64_t prefix;
-    int index;
-};
-
-std::string SortKey(std::string_view text) {
-    std::string key;
-    AppendSortKey(key, text);
-    return key;
+    return key.append(text);
 }
 
 } // namespace
@@ -124,25 +68,16 @@ bool GermanLess(std::string_view left, std::string_view right) {
 
 std::vector<int> GermanOrderOf(std::size_t count, bool descending,
                                const std::function<std::string_view(std::size_t)>& textAt) {
-    const SortKeys keys(count, textAt);
-    const std::size_t shared = keys.SharedLength();
-    std::vector<Entry> entries(count);
+    std::vector<std::string> keys(count);
     for (std::size_t i = 0; i < count; ++i)
-        entries[i] = {Prefix(keys[i], shared), static_cast<int>(i)};
-    const auto less = [&keys](const Entry& a, const Entry& b) {
-        if (a.prefix != b.prefix)
-            return a.prefix < b.prefix;
-        return keys[static_cast<std::size_t>(a.index)] < keys[static_cast<std::size_t>(b.index)];
+        keys[i] = SortKey(textAt(i));
+    const auto key = [&keys](int i) -> const std::string& {
+        return keys[static_cast<std::size_t>(i)];
     };
-    if (descending)
-        std::stable_sort(entries.begin(), entries.end(),
-                         [&less](const Entry& a, const Entry& b) { return less(b, a); });
-    else
-        std::stable_sort(entries.begin(), entries.end(), less);
-
     std::vector<int> order(count);
-    std::transform(entries.begin(), entries.end(), order.begin(),
-                   [](const Entry& entry) { return entry.index; });
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](int a, int b) { return descending ? key(b) < key(a) : key(a) < key(b); });
     return order;
 }
 

@@ -2,11 +2,13 @@
 // runs nothing, whatever the names in it contain.
 #pragma once
 
-#include <QPrinter>
-#include <QTextDocument>
+#include "ui/PageLayout.h"
+
+#include <QPagedPaintDevice>
 #include <QWidget>
 
-#include <filesystem>
+#include <string>
+#include <vector>
 
 namespace emporium::ui {
 
@@ -14,20 +16,24 @@ class HtmlView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit HtmlView(QWidget* parent);
+    explicit HtmlView(QWidget* parent) : QWidget(parent) {}
 
-    /// Loads a document of the program; `navigateComplete` tells when it is there. A file that
-    /// can't be read is never reported.
-    void Navigate(const std::filesystem::path& file);
+    /// Loads a document of the program; `navigateComplete` tells when it is there.
+    void Navigate(const std::string& bytes);
 
-    /// Prints the pages that the printer was told, as text and with page numbers. False if the
-    /// printer, or the file that it prints to, failed.
-    bool PrintTo(QPrinter& printer);
+    /// Lays the loaded page out for a paper, unless that is done. False if `progress` ended it.
+    bool LayOutFor(QSizeF inches, const Progress& progress = {});
 
-    /// How many pages it takes on A4.
-    int PageCount() const { return page_->pageCount(); }
+    /// How many pages there are; 0 before LayOutFor.
+    int PageCount() const { return static_cast<int>(layout_.pages.size()); }
 
-    QString Title() const { return page_->metaInformation(QTextDocument::DocumentTitle); }
+    /// Prints the whole page, or the pages of these numbers in that order, as text and with page
+    /// numbers. The device's origin has to be the corner of the paper. False if the device failed
+    /// or `progress` ended it.
+    bool PrintTo(QPagedPaintDevice& device, const Progress& progress = {},
+                 std::vector<int> numbers = {});
+
+    QString Title() const { return page_.title; }
 
 signals:
     void navigateComplete();
@@ -36,7 +42,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QTextDocument* page_;
+    PrintedPage page_;
+    PageLayout layout_;
 };
 
 } // namespace emporium::ui

@@ -2,6 +2,7 @@
 
 #include "documents/ItemListDocument.h"
 #include "itemeditor/AvailabilityEditor.h"
+#include "itemeditor/CategoryCare.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"

@@ -2,6 +2,7 @@
 
 #include "ui/Build.h"
 #include "ui/Pictures.h"
+#include "ui/Printing.h"
 #include "ui/QtPlatform.h"
 #include "ui/Text.h"
 
@@ -51,8 +52,17 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
         browser_->setVisible(visible);
         session_.mirror.Update();
     };
-    platform.Browser.Navigate = [this](const auto& file) { browser_->Navigate(file); };
-    platform.Browser.Print = [this] { return PrintPage(*this, *browser_); };
+    platform.Browser.Navigate = [this](const auto& file) {
+        const FileText page = session_.platform.disk.files.read(file);
+        if (page.IsWhole())
+            browser_->Navigate(page.bytes);
+        return page.IsWhole();
+    };
+    platform.Browser.Print = [this] {
+        const Platform& services = session_.platform;
+        return PrintPage({*this, services.disk.files, services.ShowMessage, services.ProcessEvents},
+                         *browser_);
+    };
     platform.ShowGeneratorDialog = [this] {
         session_.mirror.Update();
         MoveToCentre(*generator_);

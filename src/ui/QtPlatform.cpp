@@ -9,7 +9,6 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPrintDialog>
 #include <QUrl>
 
 namespace emporium::ui {
@@ -29,8 +28,8 @@ bool AskYesNo(QWidget& window, const YesNoBox& box) {
     question.setIcon(box.icon == BoxIcon::Warning ? QMessageBox::Warning : QMessageBox::Question);
     question.setWindowTitle(ToQString(ProgramTitle));
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    question.setDefaultButton(QMessageBox::Yes);
-    question.setEscapeButton(box.closingMeansYes ? QMessageBox::Yes : QMessageBox::No);
+    question.setDefaultButton(box.noIsDefault ? QMessageBox::No : QMessageBox::Yes);
+    question.setEscapeButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }
 
@@ -101,27 +100,6 @@ Platform QtPlatform(QWidget& window, const Mirror& mirror) {
     };
     platform.SetWaitPointer = SetWaitPointer;
     return platform;
-}
-
-bool PrintPage(QWidget& window, HtmlView& page) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setDocName(page.Title());
-    // The dialog of Windows knows printers only, and would not open without one.
-    if (QApplication::platformName() == "windows" &&
-        printer.outputFormat() != QPrinter::NativeFormat) {
-        ShowMessage(window, "Auf diesem Rechner ist kein Drucker eingerichtet.");
-        return true;
-    }
-    QPrintDialog dialog(&printer, &window);
-    dialog.setObjectName("PrintDialog");
-    dialog.setMinMax(1, page.PageCount());
-    if (dialog.exec() != QDialog::Accepted)
-        return true;
-    SetWaitPointer(true);
-    const bool printed = page.PrintTo(printer);
-    SetWaitPointer(false);
-    return printed;
 }
 
 } // namespace emporium::ui

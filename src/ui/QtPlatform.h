@@ -1,8 +1,7 @@
-// The platform services that Qt gives: boxes, dialogs, the viewer, the printer, the clock.
+// The platform services that Qt gives: boxes, dialogs, the viewer, the wait pointer.
 #pragma once
 
 #include "base/Platform.h"
-#include "ui/HtmlView.h"
 #include "ui/Mirror.h"
 
 #include <QWidget>
@@ -12,8 +11,5 @@ namespace emporium::ui {
 /// The services that need nothing of the window but its being there: boxes, save dialog,
 /// viewer, wait pointer. Before a box opens, the windows show what has come about so far.
 Platform QtPlatform(QWidget& window, const Mirror& mirror);
-
-/// Opens the print dialog for the loaded page and prints it. False if printing failed.
-bool PrintPage(QWidget& window, HtmlView& page);
 
 } // namespace emporium::ui

@@ -1,6 +1,7 @@
 #include "ui/ShopEditorPane.h"
 
 #include "documents/ShopDocument.h"
+#include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
 #include "ui/Build.h"
@@ -49,7 +50,7 @@ void ShopEditorPane::BuildList() {
     auto* frame = BuildFrame(0, "Waren im Shop", 3840, 480, 3135, 5895);
     const TableSource source{[&shop] { return shop.ShopCount(); },
                              [&shop](int row, int column) {
-                                 return ShopCell(*shop.lvLaden.rows[static_cast<std::size_t>(row)],
+                                 return ShopCell(shop.lvLaden.rows[static_cast<std::size_t>(row)],
                                                  column);
                              }};
     list_ = new ListTable(frame,

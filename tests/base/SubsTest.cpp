@@ -1,4 +1,6 @@
 #include "base/Subs.h"
+#include "base/Dice.h"
+#include "base/IniFile.h"
 #include "support/ProgramFolder.h"
 #include "text/Ansi.h"
 #include "text/GermanNumber.h"
@@ -16,13 +18,12 @@ namespace {
 using Texts = std::vector<std::string_view>;
 
 TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
-    const IniFile ini(
-        "vorher=unerreichbar\r\n  [ Großer Krämer ] Rest = egal\r\n"
-        "  Ware1 =\t Öle und Fette \t\r\n; Ware2=Kommentar\r\n  ;Ware2=auch\n"
-        "Ware2=Seile;Taue # Netze\n#Ware3=kein Kommentar\r\nWare4=\"  innen  \"\r\n"
-        "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
-        "Ware9=\r\nWARE1=zweiter Schlüssel\r\nWare10=a=b\r\nohne Gleichheit\r\n"
-        "[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi);
+    const auto text = "vorher=unerreichbar\r\n  [ Großer Krämer ] Rest = egal\r\n"
+                      "  Ware1 =\t Öle und Fette \t\r\n; Ware2=Kommentar\r\n  ;Ware2=auch\n"
+                      "Ware2=Seile;Taue # Netze\n#Ware3=kein Kommentar\r\nWare4=\"  innen  \"\r\n"
+                      "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
+                      "Ware9=\r\nWARE1=zweiter Schlüssel\r\nWare10=a=b\r\nohne Gleichheit\r\n"
+                      "[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi;
     const std::pair<std::string_view, std::string_view> values[] = {
         {" wARE1\t", "Öle und Fette"_ansi},
         {"Ware2", "Seile;Taue # Netze"},
@@ -36,11 +37,14 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         {"Ware10", "a=b"},
         {"Ware11", ""},
         {"vorher", ""}};
-    for (const auto& [key, value] : values)
-        EXPECT_EQ(ini.Value(" gROßER kRÄMER"_ansi, key), value) << key;
-    EXPECT_EQ(ini.Value("ärmel"_ansi, "ü"_ansi), "letzte Zeile");
-    const std::string text(300, 'x');
-    EXPECT_EQ(IniFile("[a]\nb=" + text).Value("a", "b"), text.substr(0, 254));
+    const auto section = " gROßER kRÄMER"_ansi;
+    for (const auto& [key, value] : values) {
+        EXPECT_EQ(IniValue(text, section, key), value) << key;
+        EXPECT_EQ(IniSection(text, section).Value(key), value) << key;
+    }
+    EXPECT_EQ(IniValue(text, "ärmel"_ansi, "ü"_ansi), "letzte Zeile");
+    const std::string longest(254, 'x');
+    EXPECT_EQ(IniValue("[a]\nb=" + longest + "x", "a", "b"), longest);
 }
 
 TEST(FileExists, OnlyNormalFilesCount) {
@@ -51,12 +55,12 @@ TEST(FileExists, OnlyNormalFilesCount) {
     std::filesystem::create_directory(folder / "Ordner.ini");
     for (const auto name : {"Kräuter.dat"_ansi, "*.dat"_ansi, "*"_ansi, "?"_ansi,
                             "Kr?uter.dat"_ansi, "K*u*r.*t"_ansi, "*ä*"_ansi, "x*"_ansi})
-        EXPECT_TRUE(FileExists(folder / ToPath(name))) << name;
+        EXPECT_TRUE(FileExists(SystemFiles(), folder / ToPath(name))) << name;
     for (const auto name :
          {"Kräuter.da"_ansi, "Ordner.ini"_ansi, "*.ini"_ansi, ".versteckt.txt"_ansi, "*.txt"_ansi,
           "Kr??uter.dat"_ansi, "??"_ansi, "K*u*r.*tt"_ansi, "*ö*"_ansi, "x?"_ansi, "x/a"_ansi,
           "fehlt/*"_ansi, ""_ansi})
-        EXPECT_FALSE(FileExists(folder / ToPath(name))) << name;
+        EXPECT_FALSE(FileExists(SystemFiles(), folder / ToPath(name))) << name;
 }
 
 TEST(Dice, EveryFaceAndEveryPairOfFacesIsEquallyLikelyWithinOneTick) {

@@ -44,8 +44,8 @@ std::string Row(std::initializer_list<std::pair<std::string_view, std::string_vi
 
 ShopEditor FilledShop() {
     ShopEditor shop;
-    AddShopRow(shop, MakeShopRow("Seil (x3)2", "0,5", "12D", "BO|EL|FI|GA|"));
-    AddShopRow(shop, MakeShopRow("<Öl> & Fett1"_ansi, "", "7S", "GA|"));
+    AddShopRow(shop, MakeShopRow({"Seil (x3)2", "0,5", "12D", "Text", "BO|EL|FI|GA|"}));
+    AddShopRow(shop, MakeShopRow({"<Öl> & Fett1"_ansi, "", "7S", "", "GA|"}));
     ChoosePriceLevel(shop, 1);
     SortShopList(shop, ShopTextColumn);
     shop.txtName.text = "Zur Öse"_ansi;
@@ -115,6 +115,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     ScriptedPlatform script{program.folders};
     PrintHost host;
     int rounds = 0;
+    bool readable = true;
     std::string log;
     const auto print = [&](std::string_view document) {
         log.clear();
@@ -125,7 +126,9 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     script.platform.Browser.SetVisible = [&](bool visible) { log += visible ? "show " : "hide "; };
     script.platform.Browser.Navigate = [&](const std::filesystem::path& file) {
         EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
-        log += "load[" + SystemFiles().read(file).bytes + "] ";
+        const FileText page = SystemFiles().read(file);
+        log += "load[" + page.bytes + "] ";
+        return readable;
     };
     script.platform.Browser.Print = [&] { return log += "print ", true; };
     script.platform.ProcessEvents = [&] {
@@ -140,7 +143,15 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     script.platform.PreviewTimeout = std::chrono::milliseconds(20);
     script.ExpectMessage("Die Druckseite konnte nicht geladen werden.\n\nDatei: ");
     EXPECT_EQ(print("kurz"), "show load[kurz] hide ") << "the page never comes";
+    readable = false;
+    script.platform.PreviewTimeout = std::chrono::hours(1);
+    script.ExpectMessage("Die Druckseite konnte nicht geladen werden.\n\nDatei: ");
+    EXPECT_EQ(print("weg"), "show load[weg] hide ") << "told at once";
     std::filesystem::remove_all(program.folders.TempFolder);
+    EXPECT_EQ((readable = true, script.platform.PreviewTimeout = std::chrono::milliseconds(20),
+               rounds = 0, print("neuer Ordner")),
+              "show load[neuer Ordner] print hide ");
+    std::filesystem::remove_all(program.root);
     script.ExpectMessage("Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ");
     EXPECT_EQ(print("neu"), "show hide ");
 }

@@ -67,7 +67,7 @@ TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {
         goOn = answer;
         auto next = std::make_unique<frmEmporiumMain>();
         EXPECT_EQ(StartUp(*next, here.script.platform), goOn);
-        EXPECT_EQ(next->items.CategoryNames.size(), goOn ? 1U : 0U);
+        EXPECT_EQ(next->items.cmbKategorien.Entries().size(), goOn ? 2U : 1U);
         if (goOn)
             window = std::move(next); // the copy before it ends
     }

@@ -43,7 +43,7 @@ protected:
         Run();
         std::string wares;
         for (const auto& row : shop.lvLaden.rows)
-            wares += row->Text + " ";
+            wares.append(ShopCell(row, ShopTextColumn)) += " ";
         return wares;
     }
 
@@ -64,8 +64,10 @@ TEST_F(GenerateShops, EachRecordHasItsOwnThrowsInFileOrder) {
     EXPECT_EQ(script.sides, (std::vector<int>{6, 20, 6, 20, 6, 20, 6, 6, 20}));
     std::string rows;
     for (const auto& row : shop.lvLaden.rows)
-        rows += row->Text + " " + row->Weight + " " + row->Price + " " + row->ShopItemLine + " " +
-                row->ShopAvailability + " ";
+        for (const std::string_view text :
+             {ShopCell(row, ShopTextColumn), row.Weight, ShopCell(row, ShopPriceColumn),
+              row.ShopItemLine, row.ShopAvailability})
+            rows.append(text) += " ";
     EXPECT_EQ(rows,
               "Dolch 5 8,4D Dolch5 PU| Gürtel 5 12S Gürtel1 GA| Speer 5 300H Speer4 GA| "_ansi);
 }
@@ -149,12 +151,13 @@ TEST_F(GenerateShops, ARunStopsWithABoxAtAFullShop) {
     for (const int room : {2, 1}) {
         ClearShop(shop);
         while (shop.ShopCount() < MaxRows - room)
-            shop.lvLaden.rows.push_back(MakeShopRow("Seil1", "", "1H", ""));
+            shop.lvLaden.rows.push_back(MakeShopRow({"Seil1", "", "1H", "", ""}));
         if (room == 1)
             script.ExpectMessage("");
         Run();
         EXPECT_EQ(shop.ShopCount(), MaxRows);
-        EXPECT_EQ(shop.lvLaden.rows.front()->Text, room == 1 ? "Hemd" : "Gürtel"_ansi);
+        EXPECT_EQ(ShopCell(shop.lvLaden.rows.front(), ShopTextColumn),
+                  room == 1 ? "Hemd" : "Gürtel"_ansi);
         EXPECT_EQ(shop.cmbShopPreise.Text(), "Teuer");
     }
 }

@@ -44,7 +44,7 @@ TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
 }
 
 TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
-    const EditorAtWork world;
+    EditorAtWork world;
     const auto& platform = world.script.platform;
     world.program.Write("Atlas/Regionen.dat", "[ZY]\nDesc=Land ZY\n[ZW]\nDesc=Land ZW\n[GA]\n"
                                               "Desc=Land GA\n");

@@ -100,15 +100,16 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     const std::string foreign = Lines({"Fremd1", "", "1H", "", ""});
     struct World : EditorAtWork {
         // Kleidung changes behind the open form of the coat.
-        World(const std::string& bytes, bool reload) {
+        World(const std::string& bytes, bool overwrite) {
             View("Kleidung");
             Open("mantel");
             Fill(Hat);
             program.Write("Emporium/Kleidung.dat", bytes);
-            script.platform.AskYesNo = [this, reload](const YesNoBox& box) {
+            script.platform.AskYesNo = [this, overwrite](const YesNoBox& box) {
                 const bool aboutChange = box.text.starts_with("Kleidung.dat wurde inzwischen");
                 questions += aboutChange ? 1 : 0;
-                return !aboutChange || reload;
+                EXPECT_EQ(box.noIsDefault, aboutChange);
+                return !aboutChange || overwrite;
             };
         }
         int questions = 0;
@@ -121,12 +122,12 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     changed.replace(before.find(coat), coat.size(), RecordLines({Hat}));
     for (const auto act :
          {&EditorAtWork::Save, static_cast<void (EditorAtWork::*)()>(&EditorAtWork::Delete)}) {
-        World goesOn(foreign, false);
+        World goesOn(foreign, true);
         (goesOn.*act)();
         EXPECT_EQ(goesOn.File("Kleidung"), act == &EditorAtWork::Save ? changed : without);
         EXPECT_EQ(goesOn.questions, 1);
 
-        World reloads(foreign + before, true);
+        World reloads(foreign + before, false);
         (reloads.*act)();
         EXPECT_EQ(reloads.File("Kleidung"), foreign + before) << "nothing is written";
         EXPECT_EQ(RecordOfForm(reloads.editor), Hat) << "what the user typed stays";
@@ -135,12 +136,12 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
         EXPECT_EQ(reloads.File("Kleidung"), foreign + changed) << "still the same item";
         EXPECT_EQ(reloads.questions, 1);
     }
-    World vanished(foreign, true);
+    World vanished(foreign, false);
     vanished.Save();
     vanished.Delete(); // nothing is chosen now
     vanished.Save();
     EXPECT_EQ(vanished.File("Kleidung"), foreign + RecordLines({Hat})) << "a new item now";
-    World twins(before, true);
+    World twins(before, false);
     twins.program.Write("Emporium/Nahkampfwaffen.dat", coat);
     twins.View("Alles");
     twins.Open(twins.editor.ItemCount() - 4); // the coat of Kleidung, not its twin
@@ -150,7 +151,7 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     twins.Save();
     EXPECT_EQ(twins.File("Kleidung"), foreign + changed);
     EXPECT_EQ(twins.File("Nahkampfwaffen"), coat);
-    World moves(foreign + before, true);
+    World moves(foreign + before, false);
     moves.FormCategory("Abakus");
     moves.Save();
     EXPECT_EQ(moves.File("Abakus"), "");
@@ -183,7 +184,7 @@ TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     EXPECT_EQ(world.File("Fremd"), RecordLines({Hat}));
 
     world.program.Write("Emporium/ItemKategorien.dat", "1\nKleidung\n");
-    std::filesystem::remove(world.program.folders.EmporiumFolder() / "Abakus.dat");
+    world.program.Remove("Emporium/Abakus.dat");
     world.script.ExpectMessage("Nicht alles ist gelungen:\n\nAbakus.dat: Die Datei fehlt.");
     world.View("Abakus");
     world.Fill(Hat);

@@ -77,7 +77,7 @@ protected:
         const char* wanted = std::getenv("EMPORIUM_TEST_SEED");
         seed = wanted ? static_cast<unsigned>(std::stoul(wanted)) : std::random_device()();
         chance.seed(seed);
-        model.list = world.editor.CategoryNames;
+        model.list = ReadCategoryNames(world.script.platform.disk).names;
         for (const std::string& name : model.list) {
             world.View(name);
             model.files[name] = world.Records();

@@ -15,14 +15,14 @@ using Texts = std::vector<std::string>;
 class ShopList : public testing::Test {
 protected:
     void Add(std::string_view nameLine, std::string_view price, std::string_view regions = "") {
-        AddShopRow(shop, MakeShopRow(nameLine, "3", price, regions));
+        AddShopRow(shop, MakeShopRow({nameLine, "3", price, "Text", regions}));
     }
 
     // Name and price of each row, in the order of the list.
     Texts Rows() const {
         Texts rows;
         for (const auto& row : shop.lvLaden.rows)
-            rows.push_back(row->Text + " " + row->Price);
+            rows.push_back(std::string(ShopCell(row, ShopTextColumn)) + " " + row.Price);
         return rows;
     }
 
@@ -86,7 +86,7 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 7D");
     SetPrice("viel ");
     EXPECT_EQ(Rows(), (Texts{"Schwert 2 7D", "Schwert 2 7D", "Schwert 2 (x12 oder mehr) viel D"}));
-    EXPECT_EQ(shop.lvLaden.rows[2]->ShopAvailability, "GA|");
+    EXPECT_EQ(shop.lvLaden.rows[2].ShopAvailability, "GA|");
     ChoosePriceLevel(shop, 3);
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 8,4D");
 }
@@ -132,9 +132,9 @@ TEST(BasePrice, TheNumberOfAPriceIsRoundedAndHeldWithinItsLimits) {
         {"-3D", -3}, {"40000D", 32767}, {"-40000D", -32768}, {"32767,4D", 32767}, {"D", 0},
         {"", 0},     {"vielD", 0},      {"12", 1},           {"1,2,3D", 0}};
     for (const auto& [price, base] : cases) {
-        const auto row = MakeShopRow("Seil1", "", price, "");
-        EXPECT_EQ(row->ShopBasePrice, base) << price;
-        EXPECT_EQ(row->Price, price);
+        const ShopRow row = MakeShopRow({"Seil1", "", price, "", ""});
+        EXPECT_EQ(row.ShopBasePrice, base) << price;
+        EXPECT_EQ(row.Price, price);
     }
 }
 

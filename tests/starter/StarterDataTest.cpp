@@ -2,6 +2,7 @@
 
 #include "generator/GeneratorConfig.h"
 #include "generator/ShopGeneration.h"
+#include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 #include "store/ArsenalImport.h"
 #include "support/ProgramFolder.h"
@@ -75,6 +76,8 @@ TEST(StarterData, IsWrittenInTheCodePageAndTheFirstStartImportsNothing) {
         };
         EXPECT_TRUE(text.ends_with("\r\n") && std::all_of(text.begin(), text.end(), belongs))
             << entry.path();
+        if (entry.path().parent_path().filename() == "Borough")
+            EXPECT_GE(std::count(text.begin(), text.end(), '\n'), 60) << entry.path();
     }
     const ProgramFolder fresh;
     const Disk copy{disk.files, fresh.folders};
@@ -115,15 +118,15 @@ TEST(StarterData, PricesHangTogether) {
 
 TEST(StarterData, EveryTypeHasItsOwnWaresAndAsManyAsOneReads) {
     std::vector<std::string> faults;
-    const IniFile config = ReadGeneratorConfig(disk, faults);
     std::set<std::set<std::string>> sets;
     std::set<std::string> sold;
     const auto types = ReadShopTypes(disk, faults);
     for (const std::string& type : types) {
         std::set<std::string> categories;
         std::vector<ItemRecord> wares;
-        for (std::int16_t n = 1; n <= ReadWareCount(config, type); ++n) {
-            const std::string category = ReadWareCategory(config, type, n);
+        const IniSection config = ReadTypeConfig(disk, type, faults);
+        for (std::int16_t n = 1; n <= ReadWareCount(config); ++n) {
+            const std::string category = ReadWareCategory(config, n);
             const auto items = ItemsOf(category);
             wares.insert(wares.end(), items.begin(), items.end());
             categories.insert(category);

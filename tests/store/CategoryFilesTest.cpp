@@ -58,7 +58,7 @@ TEST(CategoryFiles, AListShowsAllItsNamesAndIsOnlyChangedIfItsNumberIsTheirs) {
                  {"2\nAlles\nSeile\nTaue", true},
                  {" 2 \r\nSeile\r\nTaue\r\n\r\nSeile\r\n", true},
                  {"3\r\nSeile\r\nTaue", false},
-                 {"1\r\nSeile\r\nTaue\r\n", false},
+                 {"1\r\nSeile\r\nTaue\r\n", true},
                  {"Seile\r\nTaue\r\n", false},
                  {"\r\nSeile\r\nTaue\r\n", false}};
     const ProgramFolder program;

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "itemeditor/AvailabilityEditor.h"
+#include "itemeditor/CategoryCare.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "regions/Availability.h"
-#include "support/FaultyFiles.h"
-#include "support/ProgramFolder.h"
+#include "store/WriteTurn.h"
+#include "support/MemoryDisk.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
 
@@ -62,11 +63,11 @@ public:
                 bytes += c == ';' ? "\r\n" : std::string(1, c);
             program.Write(std::string("Emporium/").append(name).append(".dat"), bytes);
         }
-        script.platform.disk.files = QuickFiles();
+        script.platform.disk.files = program.Files();
         ReadList();
     }
 
-    ProgramFolder program;
+    MemoryDisk program;
     ScriptedPlatform script{program.folders};
     ItemEditor editor;
 
@@ -135,8 +136,8 @@ public:
     /// The records of the view.
     std::vector<ItemRecord> Records() const {
         std::vector<ItemRecord> records;
-        for (const RecordView& record : editor.Items)
-            records.push_back(CopyOf(record));
+        for (const ItemRow& row : editor.Items)
+            records.push_back(CopyOf(row.record));
         return records;
     }
 
@@ -146,14 +147,12 @@ public:
     }
 
     /// All data files by name.
-    std::map<std::string, std::string> Files() const {
+    std::map<std::string, std::string> Files() {
         std::map<std::string, std::string> files;
-        for (const auto& entry :
-             std::filesystem::directory_iterator(program.folders.EmporiumFolder())) {
-            const std::string name = FromPath(entry.path().filename());
-            if (name.ends_with(".dat"))
-                files[name] = program.Read("Emporium/" + name);
-        }
+        for (const auto& file : program.Files().entries(program.folders.EmporiumFolder()))
+            if (file.extension() == ".dat")
+                files[FromPath(file.filename())] =
+                    program.Read("Emporium/" + FromPath(file.filename()));
         return files;
     }
 
@@ -165,10 +164,10 @@ public:
                 out << entry << ';';
             out << '\n';
         };
-        for (const RecordView& record : editor.Items)
-            put(record);
-        put(editor.CategoryNames);
-        put(editor.ItemHomeCategories);
+        for (const ItemRow& row : editor.Items) {
+            put(row.record);
+            out << row.home;
+        }
         put(editor.lvGegenstände.rows);
         for (const TextField& field : editor.txtItem)
             out << field.text << '\n';
@@ -186,9 +185,10 @@ public:
     }
 };
 
-/// Runs the act in worlds of their own, each time with another of its file operations failing. A
-/// failure is told in one box, and files, records and controls stand as before, or all is as
-/// without it; when its cause is gone, the same act works.
+/// Runs the act in worlds of their own, each time with another call of the disk failing, also
+/// together with a second one, or being the last. A failure is told, and files, records and
+/// controls stand as before, or as without it; after a restart the disk holds what the window
+/// shows, and nothing is lost or doubled if the program was killed.
 inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
                                const std::function<void(EditorAtWork&)>& act) {
     EditorAtWork whole;
@@ -196,28 +196,41 @@ inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare
     const auto filesBefore = whole.Files();
     const auto stateBefore = whole.State();
     act(whole);
-    bool fired = true;
-    for (int n = 1; fired; ++n) {
-        SCOPED_TRACE("file operation " + std::to_string(n));
+    const auto filesAfter = whole.Files();
+    const auto stateAfter = whole.State();
+    const auto fails = [&](int n, int second, bool killed) {
+        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second));
         EditorAtWork world;
         prepare(world);
-        const FileLayer sound = world.script.platform.disk.files;
         int boxes = 0;
         world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
-        const FaultyFiles faulty(Fault::Once, n);
-        world.script.platform.disk.files = faulty.files;
-        act(world);
-        fired = faulty.HasFired();
-        EXPECT_LE(boxes, 1);
-        EXPECT_EQ(world.Files(), boxes > 0 ? filesBefore : whole.Files());
-        EXPECT_EQ(world.State(), boxes > 0 ? stateBefore : whole.State());
-        world.script.Forget();
-        world.script.platform.disk.files = sound;
-        if (boxes > 0)
+        auto& disk = world.program;
+        disk.calls = 0;
+        if (killed)
+            disk.lastCall = n;
+        else
+            disk.failing = {n, second};
+        try {
             act(world);
-        EXPECT_EQ(world.Files(), whole.Files());
-        EXPECT_EQ(world.State(), whole.State());
-    }
+        } catch (const KilledHere&) {
+        }
+        world.script.Forget();
+        const bool reached = disk.calls >= n;
+        disk.Restart();
+        EXPECT_TRUE(TakeTurn(world.script.platform.disk).refusal.empty());
+        EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
+        if (!killed) {
+            const bool stands = world.Files() == filesAfter;
+            EXPECT_TRUE(stands || boxes > 0);
+            EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
+        }
+        return reached;
+    };
+    for (int n = 1; fails(n, 0, false); ++n)
+        for (int second = n + 1; second < n + 12; ++second)
+            fails(n, second, false);
+    for (int n = 1; fails(n, 0, true);)
+        ++n;
 }
 
 /// The records as a file holds them.

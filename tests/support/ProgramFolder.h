@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Variablen.h"
+#include "support/Lines.h"
 #include "text/Ansi.h"
 
 #include <gtest/gtest.h>
@@ -53,13 +54,5 @@ public:
         return in ? std::string(std::istreambuf_iterator<char>(in), {}) : "(absent)";
     }
 };
-
-/// Lines as a text with CR LF behind each.
-inline std::string Lines(std::initializer_list<std::string_view> lines) {
-    std::string text;
-    for (const std::string_view line : lines)
-        text.append(line).append("\r\n");
-    return text;
-}
 
 } // namespace emporium::test

@@ -16,6 +16,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QPrintDialog>
+#include <QPrinter>
 #include <QTest>
 
 #include <array>
@@ -130,6 +131,7 @@ private:
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(Output(file));
+        printer.setFullPage(true);
         driver_.Find<emporium::ui::HtmlView>("Browser")->PrintTo(printer);
     }
 

@@ -1,0 +1,255 @@
+// The file system of Windows.
+#include "files/FileLayer.h"
+
+#include "files/WindowsCalls.h"
+
+namespace emporium {
+
+using namespace windows;
+
+namespace {
+
+using Path = FileLayer::Path;
+using Handle = FileLayer::Handle;
+
+FileText Unreadable(std::error_code reason) {
+    return {FileText::State::Unreadable, {}, reason};
+}
+
+// The system lets a name hold halves of characters, which no text can.
+bool IsText(const wchar_t* name) {
+    return WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, name, -1, nullptr, 0, nullptr,
+                               nullptr) > 0;
+}
+
+HANDLE ToHandle(Handle handle) {
+    return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
+}
+
+FileText ReadOpened(HANDLE handle) {
+    FileText text{FileText::State::Whole, {}, {}};
+    char buffer[65536];
+    DWORD got = 0;
+    do {
+        if (!ReadFile(handle, buffer, sizeof buffer, &got, nullptr))
+            return Unreadable(LastError());
+        text.bytes.append(buffer, got);
+        if (text.bytes.size() > LargestFile)
+            return Unreadable(std::make_error_code(std::errc::file_too_large));
+    } while (got > 0);
+    text.bytes.shrink_to_fit(); // it may be kept for long
+    return text;
+}
+
+FileText Read(const Path& file) {
+    const DWORD attributes = AttributesOf(file);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        return Unreadable(std::make_error_code(std::errc::is_a_directory));
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const std::error_code error =
+        Open(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING, handle);
+    if (error == std::errc::no_such_file_or_directory)
+        return {};
+    if (error)
+        return Unreadable(error);
+    const bool isFile = GetFileType(handle) == FILE_TYPE_DISK;
+    FileText text = isFile ? ReadOpened(handle)
+                           : Unreadable(std::make_error_code(std::errc::operation_not_supported));
+    CloseHandle(handle);
+    return text;
+}
+
+std::error_code OpenToWrite(const Path& file, DWORD disposition, Handle& handle) {
+    HANDLE opened = INVALID_HANDLE_VALUE;
+    const std::error_code error = Open(file, GENERIC_WRITE, 0, disposition, opened);
+    handle = reinterpret_cast<Handle>(opened);
+    return error;
+}
+
+std::error_code CreateNew(const Path& file, Handle& handle) {
+    return OpenToWrite(file, CREATE_NEW, handle);
+}
+
+std::error_code Overwrite(const Path& file, Handle& handle) {
+    return OpenToWrite(file, TRUNCATE_EXISTING, handle);
+}
+
+std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
+    DWORD count = 0;
+    const auto size = static_cast<DWORD>(bytes.size() < 1U << 30U ? bytes.size() : 1U << 30U);
+    if (!WriteFile(ToHandle(handle), bytes.data(), size, &count, nullptr))
+        return LastError();
+    written = count;
+    return {};
+}
+
+std::error_code Flush(Handle handle) {
+    return FlushFileBuffers(ToHandle(handle)) ? std::error_code() : LastError();
+}
+
+std::error_code Close(Handle handle) {
+    return CloseHandle(ToHandle(handle)) ? std::error_code() : LastError();
+}
+
+// A new file has the rights of its folder, which its predecessor mostly had, too.
+std::error_code CopyMode(const Path& from, const Path& to) {
+    constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    const DWORD attributes = AttributesOf(from);
+    const bool copied =
+        attributes != INVALID_FILE_ATTRIBUTES &&
+        SetFileAttributesW(SystemPath(to).c_str(), FILE_ATTRIBUTE_ARCHIVE | (attributes & kept));
+    return copied ? std::error_code() : LastError();
+}
+
+std::error_code Rename(const Path& from, const Path& to) {
+    return WithRetries([&] {
+        return MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    });
+}
+
+std::error_code Remove(const Path& file) {
+    const std::error_code error =
+        WithRetries([&] { return DeleteFileW(SystemPath(file).c_str()) != 0; });
+    return error == std::errc::no_such_file_or_directory ? std::error_code() : error;
+}
+
+// MOVEFILE_WRITE_THROUGH has flushed already.
+std::error_code FlushFolder(const Path&) {
+    return {};
+}
+
+std::error_code CreateFolder(const Path& folder) {
+    if (CreateDirectoryW(SystemPath(folder).c_str(), nullptr))
+        return {};
+    return GetLastError() == ERROR_ALREADY_EXISTS ? std::error_code() : LastError();
+}
+
+// The folder stays open for writing, which hinders nobody: whoever opens a folder lets others do
+// so. Only the test does not, and so it fails beside another copy, on whatever machine that one
+// runs. a copy tests
+// before it marks.
+FolderClaim Claim(const Path& folder) {
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
+    HANDLE mark = INVALID_HANDLE_VALUE;
+    const auto error = Open(folder, FILE_ADD_FILE, sharing, OPEN_EXISTING, mark);
+    const bool taken = error == std::errc::device_or_resource_busy;
+    if (!error)
+        CloseHandle(mark);
+    if (Open(folder, FILE_ADD_FILE, sharing | FILE_SHARE_WRITE, OPEN_EXISTING, mark))
+        return {taken, nullptr};
+    return {taken, std::shared_ptr<void>(mark, CloseHandle)};
+}
+
+// A folder can't be locked here; a file in it can, and goes with its last handle.
+std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
+    const std::wstring file = SystemPath(folder / L"Schreibsperre.orvan-lock");
+    for (int waited = 0;; waited += LockPauseMilliseconds) {
+        HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        if (handle != INVALID_HANDLE_VALUE) {
+            lock = std::shared_ptr<void>(handle, CloseHandle);
+            return {};
+        }
+        const DWORD error = GetLastError();
+        if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED &&
+            error != ERROR_DELETE_PENDING)
+            return ToError(error);
+        if (waited >= LockMilliseconds)
+            return error == ERROR_ACCESS_DENIED
+                       ? ToError(error)
+                       : std::make_error_code(std::errc::device_or_resource_busy);
+        Sleep(LockPauseMilliseconds);
+    }
+}
+
+// A placeholder of a cloud folder is a file; what leads elsewhere is a link.
+bool IsLink(const Path& path) {
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(path).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return found.dwReserved0 == IO_REPARSE_TAG_SYMLINK ||
+           found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT;
+}
+
+FileStatus StatusOf(const Path& path) {
+    FileStatus status;
+    const DWORD attributes = AttributesOf(path);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const std::error_code reason = LastError();
+        if (reason != std::errc::no_such_file_or_directory &&
+            reason != std::errc::invalid_argument && reason != std::errc::filename_too_long)
+            status.reason = reason;
+        return status;
+    }
+    const bool link = (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsLink(path);
+    const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    status.kind = link     ? FileStatus::Kind::Link
+                  : folder ? FileStatus::Kind::Folder
+                           : FileStatus::Kind::File;
+    status.writable = folder || (attributes & FILE_ATTRIBUTE_READONLY) == 0;
+    status.hidden = (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+    return status;
+}
+
+// Where a link ends, links behind it included.
+Path LinkTarget(const Path& link) {
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    if (!IsLink(link) || Open(link, 0, sharing, OPEN_EXISTING, handle))
+        return {};
+    std::wstring name(32768, L'\0');
+    name.resize(GetFinalPathNameByHandleW(handle, name.data(), static_cast<DWORD>(name.size()),
+                                          FILE_NAME_NORMALIZED));
+    CloseHandle(handle);
+    return name;
+}
+
+std::vector<Path> EntriesOf(const Path& folder) {
+    std::vector<Path> entries;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return entries;
+    do {
+        const std::wstring_view name = found.cFileName;
+        if (name != L"." && name != L".." && IsText(found.cFileName))
+            entries.push_back(folder / name);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return entries;
+}
+
+bool SameFile(const Path& one, const Path& other) {
+    const auto identity = [](const Path& path, BY_HANDLE_FILE_INFORMATION& information) {
+        constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        HANDLE handle = INVALID_HANDLE_VALUE;
+        if (Open(path, 0, sharing, OPEN_EXISTING, handle))
+            return false;
+        const bool told = GetFileInformationByHandle(handle, &information) != 0;
+        CloseHandle(handle);
+        return told;
+    };
+    BY_HANDLE_FILE_INFORMATION a{}, b{};
+    return identity(one, a) && identity(other, b) &&
+           a.dwVolumeSerialNumber == b.dwVolumeSerialNumber &&
+           a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
+}
+
+} // namespace
+
+FileLayer SystemFiles() {
+    return {Read,      StatusOf,    LinkTarget,   EntriesOf, SameFile, CreateNew,
+            Overwrite, Write,       Flush,        Close,     CopyMode, Rename,
+            Remove,    FlushFolder, CreateFolder, Claim,     Lock};
+}
+
+Path RunningProgramFolder() {
+    std::wstring name(32768, L'\0');
+    name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+    return Path(name).parent_path();
+}
+
+} // namespace emporium

@@ -1,0 +1,313 @@
+#include "files/FileWriting.h"
+#include "base/Subs.h"
+#include "files/Journal.h"
+#include "files/Links.h"
+#include "files/Recovery.h"
+#include "files/Temporaries.h"
+#include "support/MemoryDisk.h"
+#include "support/ProgramFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+namespace emporium::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using State = std::map<std::string, std::string>;
+using Changes = std::map<std::string, std::optional<std::string>>;
+
+const std::vector<Changes> AllChanges = {
+    {{"a.dat", std::string(5000, 'n')}},
+    {{"neu.dat", "frisch"}},
+    {{"a.dat", std::nullopt}},
+    {{"a.dat", "neu a"}, {"b.dat", ""}},
+    {{"a.dat", "neu a"}, {"b.dat", std::nullopt}, {"neu.dat", "frisch"}}};
+
+struct Writing {
+    Writing() {
+        for (const std::string name : {"a.dat", "b.dat", "c.dat"})
+            disk.Write("Emporium/" + name, "alt " + name);
+    }
+
+    State Look() {
+        State state;
+        for (const auto& file : disk.Files().entries(folder))
+            state[file.filename().string()] = disk.Read("Emporium/" + file.filename().string());
+        return state;
+    }
+
+    State With(const Changes& changes) {
+        State state = Look();
+        for (const auto& [name, contents] : changes)
+            if (contents)
+                state[name] = *contents;
+            else
+                state.erase(name);
+        return state;
+    }
+
+    WriteResult Write(const Changes& changes) {
+        std::vector<FileChange> list;
+        for (const auto& [name, contents] : changes)
+            list.push_back({folder / name, contents});
+        return WriteFiles(disk.Files(), folder, list);
+    }
+
+    // The next start.
+    State Finish() {
+        disk.Restart();
+        const Recovery recovery = FinishJournal(disk.Files(), folder);
+        EXPECT_FALSE(recovery.failure);
+        EXPECT_TRUE(recovery.notices.empty()) << recovery.notices.front();
+        EXPECT_FALSE(RemoveStrays(disk.Files(), folder));
+        return Look();
+    }
+
+    MemoryDisk disk;
+    fs::path folder = disk.folders.EmporiumFolder();
+};
+
+enum class Trouble { Fails, FailsFromThenOn, Killed, ContentsLost, NamesLost, BothLost };
+
+// False once there is no n-th call.
+bool TryTrouble(const Changes& changes, Trouble trouble, int n, int second) {
+    SCOPED_TRACE(testing::PrintToString(changes) + ", call " + std::to_string(n) + ", trouble " +
+                 std::to_string(static_cast<int>(trouble)));
+    Writing here;
+    const State before = here.Look();
+    const State wanted = here.With(changes);
+    auto& disk = here.disk;
+    if (trouble == Trouble::Fails)
+        disk.failing = {n, second};
+    else
+        (trouble == Trouble::FailsFromThenOn ? disk.failingFrom : disk.lastCall) = n;
+    bool stands = false;
+    bool dropped = false;
+    try {
+        stands = here.Write(changes).stands;
+        dropped = !stands;
+    } catch (const KilledHere&) {
+    }
+    const bool reached = disk.calls >= n;
+    if (trouble > Trouble::Killed)
+        disk.CutPower(trouble != Trouble::NamesLost, trouble != Trouble::ContentsLost);
+    const State finished = here.Finish();
+    EXPECT_TRUE(finished == wanted || finished == before) << testing::PrintToString(finished);
+    const bool lasts = trouble < Trouble::ContentsLost;
+    EXPECT_TRUE(!lasts || !stands || finished == wanted);
+    EXPECT_TRUE(!lasts || !dropped || finished == before);
+    EXPECT_EQ(here.Finish(), finished);
+    return reached;
+}
+
+TEST(FileWriting, WhicheverCallBreaksAllFilesAreOldOrAllAreNew) {
+    for (const Trouble trouble : {Trouble::Fails, Trouble::FailsFromThenOn, Trouble::Killed,
+                                  Trouble::ContentsLost, Trouble::NamesLost, Trouble::BothLost})
+        for (const Changes& changes : AllChanges)
+            for (int n = 1; TryTrouble(changes, trouble, n, 0);)
+                ++n;
+}
+
+TEST(FileWriting, AnyTwoCallsMayFail) {
+    for (const Changes& changes : AllChanges)
+        for (int n = 1; TryTrouble(changes, Trouble::Fails, n, 0); ++n)
+            for (int second = n + 1; second < n + 25; ++second)
+                TryTrouble(changes, Trouble::Fails, n, second);
+}
+
+TEST(FileWriting, WhatIsWrittenIsThereAfterAPowerCut) {
+    for (const Changes& changes : AllChanges) {
+        Writing here;
+        const State wanted = here.With(changes);
+        EXPECT_TRUE(here.Write(changes).stands);
+        here.disk.CutPower(true, true);
+        EXPECT_EQ(here.Finish(), wanted);
+    }
+}
+
+TEST(FileWriting, WhatStandsInTheWayIsRefused) {
+    Writing here;
+    auto& disk = here.disk;
+    disk.Put(here.folder / "b.dat", "alt").writable = false;
+    disk.Put(here.folder / "link.dat", "/fremd/ziel.dat", FileStatus::Kind::Link);
+    disk.Put(here.folder / "pipe.dat", "", FileStatus::Kind::Other);
+    disk.Put(here.folder / "ordner.dat", "", FileStatus::Kind::Folder);
+    disk.names[(here.folder / "e.dat").string()] = disk.names[(here.folder / "a.dat").string()];
+    const State before = here.Look();
+    for (const Changes& changes : {Changes{{"a.dat", "neu"}, {"b.dat", "neu"}},
+                                   {{"a.dat", "neu"}, {"b.dat", std::nullopt}},
+                                   {{"link.dat", "neu"}},
+                                   {{"link.dat", std::nullopt}},
+                                   {{"pipe.dat", "neu"}},
+                                   {{"ordner.dat", "neu"}},
+                                   {{"a.dat", "mit"}, {"e.dat", "ohne"}}}) {
+        EXPECT_FALSE(here.Write(changes).stands);
+        EXPECT_EQ(here.Look(), before);
+    }
+    disk.Put(here.folder / JournalName, "unlesbar", FileStatus::Kind::Folder);
+    EXPECT_FALSE(here.Write({{"a.dat", "neu"}}).stands) << "nothing before the journal is finished";
+}
+
+TEST(FileWriting, AnExportGoesWhereTheUserSays) {
+    Writing here;
+    const FileLayer files = here.disk.Files();
+    here.disk.Put(here.folder / "link.html", "a.dat", FileStatus::Kind::Link);
+    EXPECT_FALSE(WriteDocument(files, here.folder / "link.html", "Laden"));
+    EXPECT_EQ(here.disk.Read("Emporium/a.dat"), "Laden");
+    here.disk.nodes[static_cast<std::size_t>(here.disk.names[here.folder.string()])].writable =
+        false;
+    EXPECT_FALSE(WriteDocument(files, here.folder / "b.dat", "noch einer"));
+    EXPECT_EQ(here.disk.Read("Emporium/b.dat"), "noch einer");
+    EXPECT_TRUE(WriteDocument(files, here.folder / "neu.html", "Laden"));
+}
+
+JournalEntry Entry(const char* name, std::optional<std::string> before, std::string after) {
+    return {name, std::string(name) + ".orvan-neu0",
+            before ? std::optional(FingerprintOf(*before)) : std::nullopt, FingerprintOf(after)};
+}
+
+TEST(Recovery, LaterWorkStaysAndNothingBehindItFollows) {
+    Writing here;
+    here.disk.Write("Emporium/a.dat.orvan-neu0", "neu a");
+    here.disk.Write("Emporium/b.dat.orvan-neu0", "neu b");
+    const JournalEntry removal{"c.dat", "", FingerprintOf("alt c.dat"), FingerprintOf("")};
+    here.disk.Write("Emporium/" + std::string(JournalName),
+                    JournalText({Entry("a.dat", "alt a.dat", "neu a"),
+                                 Entry("b.dat", "war anders", "neu b"), removal}));
+    const Recovery recovery = FinishJournal(here.disk.Files(), here.folder);
+    EXPECT_FALSE(recovery.failure);
+    ASSERT_EQ(recovery.notices.size(), 1U);
+    EXPECT_TRUE(recovery.notices[0].starts_with("b.dat: "));
+    EXPECT_EQ(here.Look(),
+              (State{{"a.dat", "neu a"}, {"b.dat", "alt b.dat"}, {"c.dat", "alt c.dat"}}));
+}
+
+TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
+    const std::string text = JournalText({Entry("a.dat", "alt a.dat", "neu a")});
+    const auto foreign = [](const char* target, const char* temporary) {
+        return JournalText({{target, temporary, std::nullopt, FingerprintOf("neu")}});
+    };
+    for (const std::string& journal :
+         {text /* without the new contents */, text.substr(1), std::string(),
+          foreign("../b.dat", "../b.dat.orvan-neu0"), foreign("/x.dat", "/x.dat.orvan-neu0"),
+          foreign("x.dat", "c.dat"), foreign("x.dat", "b.dat.orvan-neu0"), foreign("..", "")}) {
+        Writing here;
+        State wanted = here.Look();
+        here.disk.Write("Emporium/" + std::string(JournalName), journal);
+        const Recovery recovery = FinishJournal(here.disk.Files(), here.folder);
+        EXPECT_FALSE(recovery.failure);
+        EXPECT_EQ(recovery.notices.size(), 1U);
+        wanted[std::string(JournalName) + "-beiseite"] = journal;
+        EXPECT_EQ(here.Look(), wanted);
+    }
+}
+
+TEST(Journal, OnlyAWholeJournalIsRead) {
+    const std::string text =
+        JournalText({Entry("Ö 1.dat", std::nullopt, ""),
+                     {"b.dat", "", Fingerprint{1U << 31U, 7}, FingerprintOf("")}});
+    const auto read = ReadJournal(text);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(JournalText(*read), text);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        EXPECT_FALSE(ReadJournal(text.substr(0, i))) << i;
+        std::string damaged = text;
+        damaged[i] = static_cast<char>(damaged[i] ^ 1);
+        EXPECT_FALSE(ReadJournal(damaged)) << i;
+    }
+    EXPECT_FALSE(ReadJournal(text + text));
+}
+
+// The real disk, which the one in memory stands in for.
+TEST(SystemFiles, TellsWhatStandsThereAndReadsNothingButFiles) {
+    const ProgramFolder program;
+    const FileLayer files = SystemFiles();
+    const fs::path folder = program.folders.EmporiumFolder();
+    program.Write("Emporium/a.dat", "a");
+    fs::create_symlink("a.dat", folder / "link.dat");
+    fs::create_symlink("ring.dat", folder / "ring.dat");
+    ::mkfifo((folder / "pipe.dat").c_str(), 0600);
+    using Kind = FileStatus::Kind;
+    const auto kind = [&](const std::string& name) { return files.status(folder / name).kind; };
+    EXPECT_EQ(kind("a.dat"), Kind::File);
+    EXPECT_EQ(kind("link.dat"), Kind::Link);
+    EXPECT_EQ(kind("pipe.dat"), Kind::Other);
+    EXPECT_EQ(kind("."), Kind::Folder);
+    EXPECT_EQ(kind(std::string(300, 'x')), Kind::Absent);
+    EXPECT_EQ(files.read(folder / "link.dat").bytes, "a");
+    for (const char* name : {"pipe.dat", "."})
+        EXPECT_EQ(files.read(folder / name).state, FileText::State::Unreadable) << name;
+    for (const std::string& name : {std::string("ring.dat"), std::string(300, 'x')})
+        EXPECT_EQ(files.read(folder / name).state, FileText::State::Absent) << name;
+    EXPECT_TRUE(FileExists(files, folder / "l*.dat"));
+    EXPECT_FALSE(FileExists(files, folder / "ring.dat"));
+    fs::permissions(folder / "a.dat", fs::perms::owner_read);
+    EXPECT_FALSE(files.status(folder / "a.dat").writable);
+    EXPECT_FALSE(WriteFiles(files, folder, {{folder / "a.dat", "neu"}}).stands);
+    fs::permissions(folder / "a.dat", fs::perms::owner_all);
+    EXPECT_TRUE(
+        WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}}).stands);
+    EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
+    EXPECT_EQ(fs::status(folder / "a.dat").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(files.entries(folder).size(), 5U);
+}
+
+// The system's own calls, in a process that really ends.
+TEST(SystemFiles, AProcessMayEndInAnyCall) {
+    bool ended = true;
+    for (int n = 1; ended; ++n) {
+        const ProgramFolder program;
+        const fs::path folder = program.folders.EmporiumFolder();
+        program.Write("Emporium/a.dat", "alt a");
+        const pid_t child = ::fork();
+        if (child == 0) {
+            FileLayer files = SystemFiles();
+            int calls = 0;
+            const auto guard = [&](auto& call) {
+                call = [real = call, &calls, n](auto&&... arguments) {
+                    if (++calls == n)
+                        ::_exit(1);
+                    return real(arguments...);
+                };
+            };
+            guard(files.createNew), guard(files.write), guard(files.flush), guard(files.rename);
+            guard(files.remove), guard(files.flushFolder), guard(files.close);
+            ::_exit(WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}})
+                            .stands
+                        ? 0
+                        : 2);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ended = WEXITSTATUS(status) == 1;
+        EXPECT_NE(WEXITSTATUS(status), 2);
+        EXPECT_FALSE(FinishJournal(SystemFiles(), folder).failure);
+        EXPECT_FALSE(RemoveStrays(SystemFiles(), folder));
+        const bool isNew = program.Read("Emporium/a.dat") == "neu";
+        EXPECT_EQ(program.Read("Emporium/b.dat"), isNew ? "b" : "(absent)") << n;
+        EXPECT_EQ(SystemFiles().entries(folder).size(), isNew ? 2U : 1U) << n;
+    }
+}
+
+TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
+    const ProgramFolder program;
+    const FileLayer files = SystemFiles();
+    const fs::path folder = program.folders.EmporiumFolder();
+    const FolderClaim first = files.claim(folder);
+    EXPECT_FALSE(first.takenElsewhere);
+    EXPECT_TRUE(files.claim(folder).takenElsewhere);
+    std::shared_ptr<void> mine;
+    std::shared_ptr<void> others;
+    EXPECT_FALSE(files.lock(folder, mine));
+    EXPECT_EQ(files.lock(folder, others), std::errc::device_or_resource_busy);
+    mine.reset();
+    EXPECT_FALSE(files.lock(folder, others));
+}
+
+} // namespace
+} // namespace emporium::test
