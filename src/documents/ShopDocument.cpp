@@ -77,7 +77,7 @@ void ExportShop(const ShopEditor& shop, const Platform& platform) {
     const auto failure = WriteDocument(platform.disk.files, target, document);
     platform.SetWaitPointer(false);
     if (failure) {
-        platform.ShowMessage(FailureText("Der Shop konnte nicht gespeichert werden.", *failure));
+        platform.ShowMessage(FailureText("Der Laden konnte nicht gespeichert werden.", *failure));
         return;
     }
     if (platform.AskYesNo(

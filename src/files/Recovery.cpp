@@ -92,7 +92,8 @@ void RemoveTemporary(const FileLayer& files, const FoundStep& step) {
 }
 
 // A step follows only where those before it stand: a removal could take the last copy of a record.
-Recovery Carry(const FileLayer& files, const fs::path& folder, std::vector<FoundStep> steps) {
+Recovery Carry(const FileLayer& files, const fs::path& folder,
+               const std::vector<FoundStep>& steps) {
     Recovery recovery;
     for (const FoundStep& step : steps) {
         if (step.progress == Progress::Foreign)
@@ -131,7 +132,7 @@ Recovery FinishJournal(const FileLayer& files, const fs::path& folder) {
                     [](const FoundStep& step) { return step.progress == Progress::Lost; }))
         return SetAside(files, journalFile,
                         "Vom angefangenen Schreibvorgang fehlen die neuen Inhalte."_ansi);
-    Recovery recovery = Carry(files, folder, std::move(steps));
+    Recovery recovery = Carry(files, folder, steps);
     if (!recovery.failure)
         if (const auto error = files.remove(journalFile))
             recovery.failure = FileFailure{journalFile, error};

@@ -22,7 +22,7 @@ bool AskDespiteOtherCopy(const Platform& platform) {
     return platform.AskYesNo(
         {std::string("Orvan-Emporium 3 läuft schon und benutzt dieselben Daten. Was ihr in einem "
                      "der Fenster ändert, zeigt das andere erst, wenn ihr dort die Kategorie noch "
-                     "einmal wählt.\n\nWollt ihr trotzdem weitermachen ?"_ansi),
+                     "einmal wählt.\n\nWollt ihr trotzdem weitermachen?"_ansi),
          BoxIcon::Warning});
 }
 

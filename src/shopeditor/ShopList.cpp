@@ -45,7 +45,7 @@ void PlaceCurrentRow(ShopListView& list, int column) {
 ShopRow* DemandCurrentRow(ShopEditor& shop, const Platform& platform) {
     ShopRow* row = CurrentRow(shop);
     if (!row && shop.ShopCount() > 0)
-        platform.ShowMessage("Bitte wählt zuerst eine Ware im Shop aus."_ansi);
+        platform.ShowMessage("Bitte wählt zuerst eine Ware im Laden aus."_ansi);
     return row;
 }
 

@@ -24,7 +24,7 @@ void AddShopRow(ShopEditor& shop, ShopRow row);
 /// True if the shop holds as many wares as it can.
 bool ShopIsFull(const ShopEditor& shop);
 inline constexpr std::string_view ShopFullText =
-    "Der Shop ist voll: Er fasst höchstens 32767 Waren."_ansi;
+    "Der Laden ist voll: Er fasst höchstens 32767 Waren."_ansi;
 
 /// cmdItemHin: adds the chosen item, or says in a box that the shop is full.
 void AddItemToShop(ShopEditor& shop, const ItemEditor& items, const Platform& platform);

@@ -205,7 +205,7 @@ void ItemEditorPane::BuildNotice() {
         "Willkommen in der Tuchhalle!\n\n"
         "Was ihr hier speichert, steht sofort in den Dateien des Ordners Data. Sichert ihr diesen "
         "Ordner, so sichert ihr alle eure Gegenstände.\n\n"
-        "Ein Shop dagegen lebt nur, solange das Programm läuft. Exportiert oder druckt ihn, bevor "
+        "Ein Laden dagegen lebt nur, solange das Programm läuft. Exportiert oder druckt ihn, bevor "
         "ihr das Programm schließt.\n\n"
         "Gegenstände der Kategorien Nahkampfwaffen, Fernwaffen und Rüstungen, die ihr löscht oder "
         "umbenennt, kommen beim nächsten Start unter ihrem alten Namen zurück, solange sie in den "
