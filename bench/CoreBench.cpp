@@ -1,15 +1,11 @@
-// The generator, prices, orders, documents and names.
+// The generator, the orders of the lists and the largest document.
 #include "Table.h"
 #include "World.h"
 
-#include "base/Subs.h"
-#include "documents/ItemListDocument.h"
 #include "documents/ShopDocument.h"
-#include "generator/GeneratorConfig.h"
 #include "generator/ShopGeneration.h"
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemList.h"
-#include "names/GenNameSub.h"
 
 #include <algorithm>
 #include <array>
@@ -104,81 +100,13 @@ void BoundSort(benchmark::State& state) {
     }
 }
 
-// The first row again and again, which has all others move up.
-void Remove10000ShopRows(benchmark::State& state) {
-    for (auto _ : state) {
-        state.PauseTiming();
-        ShopEditor shop = FilledShop(state.range(0));
-        ChooseShopRow(shop, 0);
-        state.ResumeTiming();
-        for (int i = 0; i < 10'000; ++i)
-            RemoveShopRow(shop);
-    }
-}
-
-template <typename Editor>
-void WriteDocument(benchmark::State& state, const Editor& editor,
-                   void (*write)(const Editor&, std::string&)) {
+void WriteDocument(benchmark::State& state) {
+    const ShopEditor shop = FilledShop(state.range(0));
     std::string document;
     for (auto _ : state) {
         document.clear();
-        write(editor, document);
+        WriteShopPrint(shop, document);
         benchmark::DoNotOptimize(document);
-    }
-}
-
-std::string Numbered(std::string_view name, std::string_view behind, std::int64_t lines) {
-    std::string text;
-    for (int i = 0; i < lines; ++i)
-        text.append(name).append(std::to_string(i)).append(behind).append("\r\n");
-    return text;
-}
-
-std::string Settings(std::int64_t keys) {
-    return "[Region]\r\n" + Numbered("Key", "=Wert", keys);
-}
-
-std::string Names(std::int64_t names) {
-    return Numbered("Alrike", "", names);
-}
-
-void ReadSetting(benchmark::State& state) {
-    const World world(0, 1);
-    const auto file = world.WriteData("Settings.dat", Settings(state.range(0)));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(ReadIniValue(world.platform.disk.files, file, "Region", "Key17"));
-}
-
-// A name of two lists.
-void DrawName(benchmark::State& state) {
-    const World world(0, 1);
-    for (const auto list : {"GarethWeiblich.dat", "GarethNachname.dat"})
-        world.WriteData(std::filesystem::path("Borough") / list, Names(state.range(0)));
-    Dice dice(SecondsSinceMidnight);
-    const Die die = [&dice](std::int32_t n) { return dice.RollDice(n); };
-    for (auto _ : state) {
-        NameLists lists(world.platform.disk, die);
-        std::string sex = "Weiblich";
-        benchmark::DoNotOptimize(GenName(lists, "Gareth", sex));
-    }
-}
-
-void Read(benchmark::State& state, const std::string& text, int times) {
-    const World world(0, 1);
-    const auto file = world.WriteData("Lines.dat", text);
-    for (auto _ : state)
-        for (int time = 0; time < times; ++time)
-            benchmark::DoNotOptimize(CountLines(world.platform.disk.files, file));
-}
-
-// Start-up with a list of that many categories.
-void CategoryList(benchmark::State& state) {
-    const World world(0, static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        ItemEditor editor;
-        std::vector<std::string> faults;
-        ReadCategoryList(editor, world.platform.disk, faults);
-        benchmark::DoNotOptimize(editor);
     }
 }
 
@@ -194,16 +122,7 @@ const std::vector<Measurement> Measurements = {
     {"SortItems", "BoundSort",
      [](State& s) { Sort(s, AllItems(s.range(0)), SortItemList, ItemPriceColumn); }},
     {"BoundSort", "", BoundSort},
-    {"Remove10000ShopRows", "", Remove10000ShopRows, false, {32767}},
-    {"ShopExport", "", [](State& s) { WriteDocument(s, FilledShop(s.range(0)), WriteShopExport); }},
-    {"ShopPrint", "", [](State& s) { WriteDocument(s, FilledShop(s.range(0)), WriteShopPrint); }},
-    {"ItemListDocument", "",
-     [](State& s) { WriteDocument(s, AllItems(s.range(0)), WriteItemList); }},
-    {"ReadIniValue", "BoundReadSettings", ReadSetting},
-    {"BoundReadSettings", "", [](State& s) { Read(s, Settings(s.range(0)), 1); }},
-    {"GenName", "BoundReadNames", DrawName},
-    {"BoundReadNames", "", [](State& s) { Read(s, Names(s.range(0)), 2); }},
-    {"CategoryList", "", CategoryList}};
+    {"ShopPrint", "", WriteDocument}};
 
 } // namespace
 } // namespace emporium::bench

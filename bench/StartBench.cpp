@@ -2,13 +2,12 @@
 // memory it took at most and ends: processes whose times and sizes can be compared.
 //
 //   start_bench empty
-//   start_bench PROGRAM_FOLDER [CATEGORY]
+//   start_bench PROGRAM_FOLDER
 
 #include "ui/Application.h"
 #include "ui/MainWindow.h"
 #include "ui/Text.h"
 
-#include <QComboBox>
 #include <QFile>
 
 #include <cstring>
@@ -29,11 +28,6 @@ std::unique_ptr<QWidget> MakeWindow(const char* what) {
     return window;
 }
 
-void Choose(const QWidget& window, const char* category) {
-    auto* list = window.findChild<QComboBox*>("cmbKategorien");
-    emit list->activated(list->findText(category));
-}
-
 // The most that the process took, in kB.
 std::string PeakMemory() {
     std::ifstream status("/proc/self/status");
@@ -52,8 +46,6 @@ int main(int argc, char** argv) {
     emporium::ui::SetUpApplication(application);
     const auto window = MakeWindow(argv[1]);
     window->show();
-    if (argc > 2)
-        Choose(*window, argv[2]);
     window->repaint();
     QApplication::processEvents();
     std::cout << PeakMemory() << '\n';

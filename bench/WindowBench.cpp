@@ -10,7 +10,6 @@
 
 #include <QComboBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
@@ -58,11 +57,6 @@ public:
     void PickRow(const char* list, int row) const {
         auto* table = Find<ui::ListTable>(list);
         table->setCurrentIndex(table->model()->index(row, 0));
-    }
-
-    void Press(const char* widget, int key, const QString& text = {}) const {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QApplication::sendEvent(Find<QWidget>(widget), &press);
     }
 
     int Rows(const char* list) const { return Find<ui::ListTable>(list)->model()->rowCount(); }
@@ -126,8 +120,8 @@ std::function<void(benchmark::State&)> OnDesk(const std::function<void(Desk& des
 
 // A window in a process of its own, from its start to its end, which follows its first frame: that
 // of the program folder, or an empty one. Gives the memory in MB that it took at most.
-double RunWindow(const std::filesystem::path& folder, const std::string& category = "") {
-    const std::string command = "exec " START_BENCH " '" + folder.string() + "' " + category;
+double RunWindow(const std::filesystem::path& folder) {
+    const std::string command = "exec " START_BENCH " '" + folder.string() + "'";
     FILE* child = popen(command.c_str(), "r");
     std::array<char, 64> kilobytes{};
     const bool told = std::fgets(kilobytes.data(), kilobytes.size(), child);
@@ -189,16 +183,6 @@ const std::vector<Measurement> Measurements = {
     {"PickItem", "",
      OnDesk(PrepareItem,
             [](Desk& d, int turn) { d.PickRow("lvGegenstände", turn % d.Rows("lvGegenstände")); })},
-    {"SearchByLetter", "",
-     OnDesk(
-         PrepareItem,
-         [](Desk& d, int turn) { d.Press("lvGegenstände", 0, QString(QChar('a' + turn % 26))); })},
-    {"TypeIntoField", "",
-     OnDesk(PrepareItem,
-            [](Desk& d, int turn) { d.Press("txtItem3", 0, QString(QChar('a' + turn % 26))); })},
-    {"TickAvailability", "",
-     OnDesk(PrepareItem,
-            [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdAlleHin" : "cmdAlleZurück"); })},
     {"SaveItem", "",
      OnDesk(PrepareItem,
             [](Desk& d, int turn) {
@@ -214,18 +198,6 @@ const std::vector<Measurement> Measurements = {
                 d.Click("cmdItemDelete");
             }),
      true},
-    {"SwitchMode", "",
-     OnDesk(PrepareShop,
-            [](Desk& d, int turn) { d.Click(turn % 2 == 0 ? "cmdItemEditor" : "cmdShopEditor"); })},
-    {"AddWare", "",
-     OnDesk(
-         [](Desk& d) {
-             PrepareShop(d);
-             PrepareItem(d);
-         },
-         [](Desk& d, int) { d.Click("cmdItemHin"); })},
-    {"RemoveWare", "",
-     OnDesk(PrepareShop, [](Desk& d, int) { d.Press("lvLaden", Qt::Key_Delete); })},
     {"ClickShopHeader", "",
      OnDesk(PrepareShop, [](Desk& d, int turn) { d.ClickHeader("lvLaden", turn % 2); })},
     {"ChoosePriceLevel", "",
@@ -238,17 +210,12 @@ const std::vector<Measurement> Measurements = {
 
 void PrintMemory() {
     const StarterWorld starter;
-    const World one(1, 1);
-    const World full(32767, Categories);
     const double empty = RunWindow("empty");
     const double program = RunWindow(starter.root);
-    const double items = RunWindow(full.root, "Alles") - RunWindow(one.root, "Alles");
     std::cout << "\n| Memory | MB | Beside | Ratio |\n|---|---|---|---|\n"
               << "| An empty window | " << Digits(empty) << " | | |\n"
               << "| The window over the starter files | " << Digits(program)
-              << " | an empty window | " << Digits(program / empty) << " |\n"
-              << "| 32767 items in view, beyond a single one | " << Digits(items)
-              << " | their bytes on disk | " << Digits(items / full.Megabytes()) << " |\n";
+              << " | an empty window | " << Digits(program / empty) << " |\n";
 }
 
 } // namespace

@@ -74,14 +74,6 @@ public:
         return file;
     }
 
-    /// What the categories take on the disk.
-    double Megabytes() const {
-        std::uintmax_t bytes = 0;
-        for (const auto& file : std::filesystem::directory_iterator(folders.EmporiumFolder()))
-            bytes += file.file_size();
-        return static_cast<double>(bytes) / (1024 * 1024);
-    }
-
     /// As long as the starter files' records are on average.
     static ItemRecord Record(int number) {
         static const std::vector<std::string> regions = {FullAvailability(), "BO|GA|TH|", "MO|WA|",

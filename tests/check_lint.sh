@@ -15,7 +15,7 @@ sed -E 's/ -Winvalid-pch -include [^ ]+//; s/ -fpch-preprocess//' "$build/compil
 
 unclean() {
     find src -name "$pattern" | while read -r source; do
-        grep -qF "/$source\"" "$build/lint/compile_commands.json" || continue # another system's
+        grep -q "$source\"" "$build/compile_commands.json" || continue # of the other system
         clean=$build/lint/${source//\//-}
         if [ ! -e "$clean" ] || [ .clang-tidy -nt "$clean" ] || [ tests/check_lint.sh -nt "$clean" ] ||
             [ -n "$(find "$build/src" -name "${source##*/}.o*" -newer "$clean")" ]; then

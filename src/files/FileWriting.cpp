@@ -112,6 +112,18 @@ Journal DescribeSteps(const std::vector<FileChange>& changes, const std::vector<
     return journal;
 }
 
+// Before the first rename the announcement has to be on the disk, name and contents: renames that
+// outlive it at a power cut would be half a change.
+std::optional<FileFailure> Announce(const FileLayer& files, const fs::path& journal,
+                                    std::string text) {
+    const WriteResult written = WriteSingle(files, {journal, std::move(text)});
+    if (!written.stands)
+        return written.failure;
+    const auto error = files.flushFolder(journal.parent_path());
+    const bool dropped = error && !files.remove(journal);
+    return dropped ? std::optional(FileFailure{journal, error}) : std::nullopt;
+}
+
 // From the journal's rename on the changes are promised; a journal that stays after they are all
 // made has no effect, for what it announces is found to be done.
 WriteResult WriteBound(const FileLayer& files, const fs::path& folder,
@@ -120,11 +132,9 @@ WriteResult WriteBound(const FileLayer& files, const fs::path& folder,
     if (auto failure = Prepare(files, changes, steps))
         return {false, failure};
     const fs::path journal = folder / JournalName;
-    WriteResult announced =
-        WriteSingle(files, {journal, JournalText(DescribeSteps(changes, steps))});
-    if (!announced.stands) {
+    if (auto failure = Announce(files, journal, JournalText(DescribeSteps(changes, steps)))) {
         RemoveTemporaries(files, steps);
-        return announced;
+        return {false, failure};
     }
     for (const Step& step : steps)
         if (const auto error = Apply(files, step))

@@ -65,7 +65,8 @@ std::string ForeignNotice(const fs::path& file) {
     return FromPath(file.filename()) +
            std::string(": Die Datei wurde geändert, nachdem ein Schreibvorgang unterbrochen worden "
                        "war. Sie bleibt, wie sie ist. Ein Gegenstand kann deshalb in zwei "
-                       "Kategorien stehen."_ansi);
+                       "Kategorien stehen, oder Liste und Dateien der Kategorien passen nicht "
+                       "zusammen."_ansi);
 }
 
 // The journal keeps its contents under another name, which no start looks at.
@@ -110,9 +111,12 @@ Recovery Carry(const FileLayer& files, const fs::path& folder, std::vector<Found
 
 Recovery FinishJournal(const FileLayer& files, const fs::path& folder) {
     const fs::path journalFile = folder / JournalName;
-    const FileText text = files.read(journalFile);
-    if (text.state == FileText::State::Absent)
+    const FileStatus status = files.status(journalFile);
+    if (status.kind == FileStatus::Kind::Absent && !status.reason)
         return {};
+    if (status.kind != FileStatus::Kind::File && !status.reason)
+        return SetAside(files, journalFile, "Der angefangene Schreibvorgang ist keine Datei."_ansi);
+    const FileText text = files.read(journalFile);
     if (!text.IsWhole())
         return {FileFailure{journalFile, text.reason}, {}};
     const auto journal = ReadJournal(text.bytes);

@@ -163,17 +163,6 @@ std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
     }
 }
 
-// A placeholder of a cloud folder is a file; what leads elsewhere is a link.
-bool IsLink(const Path& path) {
-    WIN32_FIND_DATAW found;
-    HANDLE search = FindFirstFileW(SystemPath(path).c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return false;
-    FindClose(search);
-    return found.dwReserved0 == IO_REPARSE_TAG_SYMLINK ||
-           found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT;
-}
-
 FileStatus StatusOf(const Path& path) {
     FileStatus status;
     const DWORD attributes = AttributesOf(path);

@@ -65,4 +65,14 @@ std::error_code Open(const Path& path, DWORD access, DWORD sharing, DWORD dispos
     });
 }
 
+bool IsLink(const Path& path) {
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW(SystemPath(path).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return found.dwReserved0 == IO_REPARSE_TAG_SYMLINK ||
+           found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT;
+}
+
 } // namespace emporium::windows

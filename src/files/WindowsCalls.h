@@ -37,6 +37,9 @@ std::wstring SystemPath(const std::filesystem::path& path);
 /// The attributes, or INVALID_FILE_ATTRIBUTES.
 DWORD AttributesOf(const std::filesystem::path& path);
 
+/// True for what leads elsewhere; a placeholder of a cloud folder is a file.
+bool IsLink(const std::filesystem::path& path);
+
 /// Opens a file or a folder, with retries.
 std::error_code Open(const std::filesystem::path& path, DWORD access, DWORD sharing,
                      DWORD disposition, HANDLE& handle);

@@ -56,13 +56,12 @@ std::string NoDataText(const Disk& disk) {
 }
 
 // While an interrupted write can't be finished, nothing is written on top of it.
-void BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
+// The text of a box if so.
+std::string BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
     const WriteTurn turn = TakeTurn(disk);
     faults.insert(faults.end(), turn.notices.begin(), turn.notices.end());
-    if (!turn.refusal.empty()) {
-        faults.push_back(turn.refusal);
-        return;
-    }
+    if (!turn.refusal.empty())
+        return turn.refusal;
     if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))
         faults.push_back(FaultLine(*failure));
     // Half a page that stays because it can't be removed does no harm.
@@ -70,6 +69,7 @@ void BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
         static_cast<void>(RemoveStrays(disk.files, pages));
     RenameOldCategoryFiles(disk, faults);
     ImportArsenal(disk, faults);
+    return {};
 }
 
 } // namespace
@@ -86,7 +86,7 @@ bool StartUp(frmEmporiumMain& window, const Platform& platform) {
         notice = NoWritingText(platform, folders.EmporiumFolder(), NoChanges);
     // What another copy is just writing looks like something to be finished.
     if (notice.empty() && !window.claim.takenElsewhere)
-        BringUpToDate(platform.disk, faults);
+        notice = BringUpToDate(platform.disk, faults);
     if (notice.empty())
         notice = NoWritingText(platform, folders.TempFolder, NoPrinting);
     ReadCategoryList(window.items, platform.disk, faults);

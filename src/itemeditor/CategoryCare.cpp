@@ -2,7 +2,8 @@
 
 #include "files/FileWriting.h"
 #include "itemeditor/CategoryChoice.h"
-#include "store/CategoryNames.h"
+#include "store/CategoryList.h"
+#include "store/CategoryRefusal.h"
 #include "store/WriteTurn.h"
 
 #include <algorithm>
@@ -52,8 +53,10 @@ Attempt Create(const Disk& disk, const std::string& name, bool& askAgain) {
         return {false, std::move(refusal), {}};
     std::string text = WithCategory(list, name);
     list.names.push_back(name);
-    return WriteCategory(disk, name, std::move(text), std::string(), NotCreated,
-                         std::move(list.names));
+    Attempt attempt = WriteCategory(disk, name, std::move(text), std::string(), NotCreated,
+                                    std::move(list.names));
+    attempt.text = AfterTurn(turn, std::move(attempt.text));
+    return attempt;
 }
 
 // Why the category's file stays, empty if it can go.
@@ -80,8 +83,10 @@ Attempt Delete(const Disk& disk, const std::string& name) {
         return {false, std::move(refusal), {}};
     std::string text = WithoutCategory(list, name);
     std::erase(list.names, name);
-    return WriteCategory(disk, name, std::move(text), std::nullopt, NotDeleted,
-                         std::move(list.names));
+    Attempt attempt =
+        WriteCategory(disk, name, std::move(text), std::nullopt, NotDeleted, std::move(list.names));
+    attempt.text = AfterTurn(turn, std::move(attempt.text));
+    return attempt;
 }
 
 // The fixed categories and those whose files are there.

@@ -3,6 +3,8 @@
 #include "files/FileFailure.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
+#include "store/CategoryList.h"
+#include "store/WriteTurn.h"
 
 #include <algorithm>
 
@@ -46,6 +48,8 @@ std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& p
 // The records of the chosen entry; nothing of the form.
 void ReadView(ItemEditor& editor, const Platform& platform, std::vector<std::string>& faults) {
     ResetView(editor);
+    if (auto notice = FinishBeforeReading(platform.disk); !notice.empty())
+        faults.push_back(std::move(notice));
     for (const std::string& name : NamesOfView(editor, platform, faults))
         AddToView(editor, name, ReadCategoryFile(platform.disk, name), faults);
     editor.CurrentItemRow = editor.Items.empty() ? -1 : 0;

@@ -25,6 +25,7 @@ inline constexpr std::array<std::string_view, 5> Qualities = {"Schlecht", "Einfa
 
 inline std::vector<std::string_view> PriceLevelNames() {
     std::vector<std::string_view> names;
+    names.reserve(PriceLevels.size());
     for (const PriceLevel& level : PriceLevels)
         names.push_back(level.name);
     return names;

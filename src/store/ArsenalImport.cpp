@@ -57,8 +57,10 @@ bool CanBeItem(const std::vector<std::string_view>& lines, const SourceForm& for
 }
 
 // The source's records whose names the category does not have. Two of one name are both new.
+// `passedOver` gets the names of those that can't be items.
 std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm& form,
-                                   const CategoryFile& category) {
+                                   const CategoryFile& category,
+                                   std::vector<std::string>& passedOver) {
     std::unordered_set<std::string_view> present;
     present.reserve(category.records.size());
     for (const RecordView& record : category.records)
@@ -69,7 +71,9 @@ std::vector<ItemRecord> NewRecords(std::string_view sourceText, const SourceForm
     source.Next(heading);
     std::vector<std::string_view> lines(form.lines);
     while (!source.AtEnd() && ReadSourceRecord(source, lines))
-        if (present.count(lines[0]) == 0 && CanBeItem(lines, form))
+        if (!CanBeItem(lines, form))
+            passedOver.emplace_back(lines[0]);
+        else if (present.count(lines[0]) == 0)
             added.push_back(ToItemRecord(lines, form));
     return added;
 }
@@ -82,6 +86,17 @@ void FitInto(const CategoryFile& category, std::string_view name, std::vector<It
         return;
     added.resize(room);
     faults.push_back(std::string(name).append(".dat: ").append(CategoryIsFull));
+}
+
+std::string PassedOverText(const std::filesystem::path& source,
+                           const std::vector<std::string>& names) {
+    constexpr std::size_t shown = 3;
+    std::string text = "Arsenal, " + FromPath(source.filename()) + ": " +
+                       std::to_string(names.size()) +
+                       std::string(" Einträge ohne Namen oder Währung wurden übergangen"_ansi);
+    for (std::size_t i = 0; i < names.size() && i < shown; ++i)
+        text += (i == 0 ? ": " : ", ") + (names[i].empty() ? "ohne Namen" : names[i]);
+    return text + ".";
 }
 
 void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& form,
@@ -99,7 +114,10 @@ void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& f
         faults.insert(faults.end(), found.begin(), found.end());
         return;
     }
-    auto added = NewRecords(source.bytes, form, category);
+    std::vector<std::string> passedOver;
+    auto added = NewRecords(source.bytes, form, category, passedOver);
+    if (!passedOver.empty())
+        faults.push_back(PassedOverText(sourceFile, passedOver));
     FitInto(category, name, added, faults);
     if (added.empty())
         return;

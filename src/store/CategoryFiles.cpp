@@ -1,43 +1,14 @@
 #include "store/CategoryFiles.h"
 
 #include "files/FileFailure.h"
-#include "text/GermanNumber.h"
+#include "text/LineEnds.h"
 #include "text/LineReader.h"
 
 #include <algorithm>
-#include <optional>
-#include <unordered_set>
 
 namespace emporium {
 
 namespace {
-
-constexpr std::string_view LineEnd = "\r\n";
-constexpr std::string_view CategoryEnding = ".dat";
-
-// Names of devices, which Windows takes for the device whatever ending follows.
-bool IsDeviceName(std::string_view name) {
-    const std::string_view stem = name.substr(0, name.find('.'));
-    const std::string folded = FoldCase(stem.substr(0, stem.find_last_not_of(' ') + 1));
-    static const std::unordered_set<std::string> devices = {"con", "prn",    "aux",
-                                                            "nul", "conin$", "conout$"};
-    if (devices.count(folded) > 0)
-        return true;
-    constexpr std::string_view numbers = "0123456789¹²³"_ansi;
-    return folded.size() == 4 && (folded.starts_with("com") || folded.starts_with("lpt")) &&
-           numbers.find(folded.back()) != numbers.npos;
-}
-
-// CR LF, or what ends the text's first line if that is a lone LF.
-std::string_view LineEndOf(std::string_view text) {
-    const auto end = text.find('\n');
-    return end == text.npos || (end > 0 && text[end - 1] == '\r') ? LineEnd : "\n";
-}
-
-void EndLastLine(std::string& text, std::string_view lineEnd) {
-    if (!text.empty() && text.back() != '\n')
-        text.append(lineEnd);
-}
 
 std::string RecordText(const RecordView& record, std::string_view lineEnd) {
     std::string text;
@@ -68,32 +39,6 @@ std::pair<std::string_view, std::string_view> AroundRecord(std::string_view byte
     return {bytes.substr(0, begin), end == bytes.npos ? "" : bytes.substr(end + 1)};
 }
 
-// What the first line says, nothing if it is no number.
-std::optional<double> CountIn(std::string_view listText) {
-    std::string_view line;
-    LineReader(listText).Next(line);
-    return ReadGermanNumber(line);
-}
-
-std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
-    std::vector<std::string> names;
-    std::unordered_set<std::string_view> seen = {"", AllCategories};
-    LineReader lines(listText);
-    std::string_view line;
-    if (CountIn(listText))
-        lines.Next(line);
-    while (names.size() < limit && lines.Next(line))
-        if (seen.insert(line).second)
-            names.emplace_back(line);
-    return names;
-}
-
-// The list's text with the number of its names on the first line.
-std::string Numbered(std::string_view listText) {
-    return " " + std::to_string(NamesIn(listText, listText.size()).size()) + " " +
-           std::string(LineEndOf(listText)) + std::string(listText.substr(listText.find('\n') + 1));
-}
-
 } // namespace
 
 RecordView ViewOf(const ItemRecord& record) {
@@ -110,85 +55,6 @@ ItemRecord CopyOf(const RecordView& record) {
 
 std::string_view ItemName(const RecordView& record) {
     return WithoutLast(record[NameField]);
-}
-
-const std::array<std::string_view, 3>& FixedCategories() {
-    static constexpr std::array<std::string_view, 3> names = {"Nahkampfwaffen", "Fernwaffen",
-                                                              "Rüstungen"_ansi};
-    return names;
-}
-
-bool IsFixedCategory(std::string_view name) {
-    const auto& fixed = FixedCategories();
-    return std::find(fixed.begin(), fixed.end(), name) != fixed.end();
-}
-
-std::filesystem::path CategoryListPath(const Folders& folders) {
-    return folders.EmporiumFolder() / "ItemKategorien.dat";
-}
-
-std::filesystem::path CategoryPath(const Folders& folders, std::string_view name) {
-    return folders.EmporiumFolder() / ToPath(std::string(name).append(CategoryEnding));
-}
-
-bool IsPlainName(std::string_view name) {
-    constexpr std::string_view forbidden = "\\/:*?\"<>|";
-    return !name.empty() && !IsDeviceName(name) &&
-           std::none_of(name.begin(), name.end(), [&](char c) {
-               return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-                      forbidden.find(c) != forbidden.npos;
-           });
-}
-
-bool IsOwnFile(std::string_view name) {
-    static const std::array<std::string, 6> own = {
-        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
-        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
-    return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
-}
-
-CategoryList ReadCategoryNames(const Disk& disk) {
-    FileText text = disk.files.read(CategoryListPath(disk.folders));
-    CategoryList list{text.state, ReasonOf(text), std::move(text.bytes), {}};
-    list.names = NamesIn(list.bytes, MaxRows);
-    return list;
-}
-
-std::string CategoryListFault(const CategoryList& list) {
-    constexpr std::string_view file = "ItemKategorien.dat: ";
-    if (list.state != FileText::State::Whole)
-        return std::string(file) + ReasonText(list.reason);
-    const auto count = CountIn(list.bytes);
-    if (count && *count >= 0 && *count <= static_cast<double>(list.names.size()))
-        return {}; // names that are not counted are names all the same
-    const std::string counted =
-        count ? std::string("Die erste Zeile zählt "_ansi) + GermanNumberText(*count)
-              : "In der ersten Zeile fehlt die Zahl der";
-    return std::string(file) + counted + " Kategorien, gelesen wurden " +
-           std::to_string(list.names.size()) +
-           std::string(". Berichtigt die Liste in einem Texteditor; bis dahin wird sie nicht "
-                       "verändert."_ansi);
-}
-
-std::string WithCategory(const CategoryList& list, std::string_view name) {
-    const std::string_view lineEnd = LineEndOf(list.bytes);
-    std::string text = list.bytes;
-    EndLastLine(text, lineEnd);
-    return Numbered(text.append(name).append(lineEnd));
-}
-
-std::string WithoutCategory(const CategoryList& list, std::string_view name) {
-    std::string text;
-    std::string_view rest = list.bytes;
-    for (bool isNumber = true; !rest.empty(); isNumber = false) {
-        const auto end = std::min(rest.find('\n'), rest.size() - 1) + 1;
-        std::string_view line;
-        LineReader(rest).Next(line);
-        if (isNumber || line != name)
-            text.append(rest.substr(0, end));
-        rest.remove_prefix(end);
-    }
-    return Numbered(text);
 }
 
 bool HasMark(const RecordView& record, ItemField field) {
@@ -214,9 +80,11 @@ CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name) {
     CategoryFile file{
         text.state, text.reason, std::make_shared<const std::string>(std::move(text.bytes)), {}};
     RecordReader reader(*file.bytes);
-    for (RecordView record; reader.Next(record);)
+    for (RecordView record; file.records.size() < MaxRows && reader.Next(record);)
         file.records.push_back(record);
     file.cutOff = reader.CutOff();
+    RecordView next;
+    file.goesOn = file.records.size() == MaxRows && reader.Next(next);
     return file;
 }
 
@@ -251,7 +119,11 @@ std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFil
         add(ReasonText(file.reason));
     if (file.cutOff)
         add(std::string(RecordIsCutOff)
-                .append(" Die Datei wird nur angezeigt und nicht verändert."_ansi));
+                .append(" Die Datei wird nur angezeigt und nicht verändert; ergänzt oder entfernt "
+                        "die letzten Zeilen in einem Texteditor."_ansi));
+    if (file.goesOn)
+        add("Sie hat mehr als 32767 Gegenstände. Was darüber hinausgeht, wird nicht gezeigt, und "
+            "die Datei wird nicht verändert."_ansi);
     const auto unmarked =
         std::count_if(file.records.begin(), file.records.end(), [](const RecordView& record) {
             return !HasMark(record, NameField) || !HasMark(record, PriceField);

@@ -1,9 +1,10 @@
-// The text files of the item database: the category list and one file of five-line records for each
-// category. Reading tells what it came to; writing is FileWriting's.
+// The text file of a category: records of five lines each. Reading tells what it came to; writing
+// is FileWriting's.
 #pragma once
 
 #include "base/Disk.h"
 #include "files/FileLayer.h"
+#include "store/CategoryNames.h"
 #include "text/Ansi.h"
 #include "text/LineReader.h"
 
@@ -58,9 +59,6 @@ private:
 /// The name without its Wert digit.
 std::string_view ItemName(const RecordView& record);
 
-/// The view over all categories; no category itself.
-inline constexpr std::string_view AllCategories = "Alles";
-
 /// What the user is told of a record that a category has no room for.
 inline constexpr std::string_view CategoryIsFull =
     "Die Kategorie ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi;
@@ -68,41 +66,6 @@ inline constexpr std::string_view CategoryIsFull =
 /// What the user is told of lines that are left over behind the last whole record.
 inline constexpr std::string_view RecordIsCutOff =
     "Der letzte Datensatz ist nicht vollständig."_ansi;
-
-/// The categories that the import fills. They can't be deleted.
-const std::array<std::string_view, 3>& FixedCategories();
-bool IsFixedCategory(std::string_view name);
-
-std::filesystem::path CategoryListPath(const Folders& folders);
-
-/// The file of a category. The name must be a plain file name, see IsPlainName.
-std::filesystem::path CategoryPath(const Folders& folders, std::string_view name);
-
-/// True if name + ".dat" leads to a file directly in its folder, on Linux and on Windows.
-bool IsPlainName(std::string_view name);
-
-/// True if name + ".dat" is a file of the folder that is no category, or that is renamed to one
-/// at the next start.
-bool IsOwnFile(std::string_view name);
-
-struct CategoryList {
-    FileText::State state = FileText::State::Absent;
-    std::error_code reason; // unless whole
-    std::string bytes;
-    std::vector<std::string> names; // in file order; without empty lines, repetitions and "Alles"
-};
-
-/// The names of the list, at most MaxRows. A first line that is no number counts as a name.
-CategoryList ReadCategoryNames(const Disk& disk);
-
-/// Why the list must not be changed, one line for the user: it could not be read, or has not as
-/// many names as its first line says and may be damaged. Empty if all is well.
-std::string CategoryListFault(const CategoryList& list);
-
-/// The bytes of a list without a fault, with a further name or without one, and with the right
-/// number on its first line. All other lines stay.
-std::string WithCategory(const CategoryList& list, std::string_view name);
-std::string WithoutCategory(const CategoryList& list, std::string_view name);
 
 /// A file's bytes, shared with the views of its records.
 using SharedText = std::shared_ptr<const std::string>;
@@ -112,10 +75,11 @@ struct CategoryFile {
     std::error_code reason;
     SharedText bytes;
     std::vector<RecordView> records; // the whole records, within bytes
+    bool goesOn = false;             // there are more records than a view can hold
     bool cutOff = false;             // lines are left over behind the last whole record
 
     /// True if the records are all that the file holds, so that it may be written again.
-    bool CanBeWritten() const { return state != FileText::State::Unreadable && !cutOff; }
+    bool CanBeWritten() const { return state != FileText::State::Unreadable && !cutOff && !goesOn; }
 };
 
 /// A category's records. A name that is no plain one, or that of a file of another kind, is

@@ -1,59 +1,57 @@
 #include "store/CategoryNames.h"
 
-#include "store/CategoryFiles.h"
-#include "text/Ansi.h"
-
 #include <algorithm>
+#include <string>
+#include <unordered_set>
 
 namespace emporium {
 
 namespace {
 
-bool HasGoodForm(std::string_view name) {
-    constexpr std::size_t longest = 100;
-    constexpr std::size_t longestInUtf8 = 230; // file systems take 255 bytes, endings included
-    const auto isEdge = [](char c) { return c == ' ' || c == '.'; };
-    return IsPlainName(name) && name.size() <= longest && ToUtf8(name).size() <= longestInUtf8 &&
-           !isEdge(name.front()) && !isEdge(name.back());
-}
-
-// A file whose name differs at most in case; on Windows that is the same file.
-bool FileStands(const Disk& disk, std::string_view name) {
-    const std::filesystem::path file = CategoryPath(disk.folders, name);
-    if (disk.files.status(file).kind != FileStatus::Kind::Absent)
+// Names of devices, which Windows takes for the device whatever ending follows.
+bool IsDeviceName(std::string_view name) {
+    const std::string_view stem = name.substr(0, name.find('.'));
+    const std::string folded = FoldCase(stem.substr(0, stem.find_last_not_of(' ') + 1));
+    static const std::unordered_set<std::string> devices = {"con", "prn",    "aux",
+                                                            "nul", "conin$", "conout$"};
+    if (devices.count(folded) > 0)
         return true;
-    const std::string wanted = FoldCase(FromPath(file.filename()));
-    const auto entries = disk.files.entries(disk.folders.EmporiumFolder());
-    return std::any_of(entries.begin(), entries.end(), [&wanted](const auto& entry) {
-        return FoldCase(FromPath(entry.filename())) == wanted;
-    });
+    constexpr std::string_view numbers = "0123456789¹²³"_ansi;
+    return folded.size() == 4 && (folded.starts_with("com") || folded.starts_with("lpt")) &&
+           numbers.find(folded.back()) != numbers.npos;
 }
 
 } // namespace
 
-std::string CategoryNameRefusal(const Disk& disk, const std::vector<std::string>& listed,
-                                std::string_view name) {
-    if (name == AllCategories || std::find(listed.begin(), listed.end(), name) != listed.end())
-        return std::string(
-            "Diese Kategorie existiert bereits, ihr müsst einen anderen Namen wählen."_ansi);
-    if (!HasGoodForm(name))
-        return std::string(
-            "Diesen Namen kann keine Datei tragen, ihr müsst einen anderen wählen. Er darf "
-            "höchstens 100 Zeichen lang sein, keines der Zeichen \\ / : * ? \" < > | enthalten, "
-            "nicht mit einem Leerzeichen oder Punkt beginnen oder enden und kein Gerätename "
-            "wie CON sein."_ansi);
-    const std::string folded = FoldCase(name);
-    const bool differsInCase =
-        std::any_of(listed.begin(), listed.end(),
-                    [&folded](const std::string& other) { return FoldCase(other) == folded; });
-    if (differsInCase)
-        return std::string("Eine Kategorie, deren Name sich nur in Groß- und Kleinschreibung "
-                           "unterscheidet, existiert bereits, ihr müsst einen anderen Namen "
-                           "wählen."_ansi);
-    if (IsOwnFile(name) || FileStands(disk, name))
-        return std::string("Im Ordner der Kategorien gehört dieser Name schon einer anderen "
-                           "Datei, ihr müsst einen anderen wählen."_ansi);
-    return {};
+const std::array<std::string_view, 3>& FixedCategories() {
+    static constexpr std::array<std::string_view, 3> names = {"Nahkampfwaffen", "Fernwaffen",
+                                                              "Rüstungen"_ansi};
+    return names;
+}
+
+bool IsFixedCategory(std::string_view name) {
+    const auto& fixed = FixedCategories();
+    return std::find(fixed.begin(), fixed.end(), name) != fixed.end();
+}
+
+std::filesystem::path CategoryPath(const Folders& folders, std::string_view name) {
+    return folders.EmporiumFolder() / ToPath(std::string(name).append(CategoryEnding));
+}
+
+bool IsPlainName(std::string_view name) {
+    constexpr std::string_view forbidden = "\\/:*?\"<>|";
+    return !name.empty() && !IsDeviceName(name) &&
+           std::none_of(name.begin(), name.end(), [&](char c) {
+               return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+                      forbidden.find(c) != forbidden.npos;
+           });
+}
+
+bool IsOwnFile(std::string_view name) {
+    static const std::array<std::string, 6> own = {
+        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
+        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
+    return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
 }
 
 } // namespace emporium

@@ -1,5 +1,6 @@
 #include "store/WriteTurn.h"
 
+#include "files/Journal.h"
 #include "files/Recovery.h"
 #include "text/Ansi.h"
 
@@ -27,6 +28,22 @@ WriteTurn TakeTurn(const Disk& disk) {
             FailureText("Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi,
                         *recovery.failure),
             {}};
+}
+
+std::string AfterTurn(const WriteTurn& turn, std::string text) {
+    for (auto notice = turn.notices.rbegin(); notice != turn.notices.rend(); ++notice)
+        text = *notice + (text.empty() ? "" : "\n\n" + text);
+    return text;
+}
+
+std::string FinishBeforeReading(const Disk& disk) {
+    const auto journal = disk.folders.EmporiumFolder() / JournalName;
+    if (disk.files.status(journal).kind == FileStatus::Kind::Absent)
+        return {};
+    const WriteTurn turn = TakeTurn(disk);
+    return turn.refusal.empty() ? AfterTurn(turn, {})
+                                : std::string("Ein früherer Schreibvorgang ist noch nicht beendet; "
+                                              "was ihr seht, kann veraltet sein."_ansi);
 }
 
 std::string StillToCome(const FileFailure& failure) {

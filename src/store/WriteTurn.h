@@ -21,6 +21,13 @@ struct [[nodiscard]] WriteTurn {
 /// Waits some seconds for the turn, and finishes an interrupted write before anything else.
 WriteTurn TakeTurn(const Disk& disk);
 
+/// The text of a box that opens after the turn: its notices, then the text; empty if both are.
+std::string AfterTurn(const WriteTurn& turn, std::string text);
+
+/// Finishes an interrupted write before its files are read, if there is one; a line for the user if
+/// that can't be done yet, and what is read may be out of date.
+std::string FinishBeforeReading(const Disk& disk);
+
 /// The text of a box: the change stands, but one file is still to be written.
 std::string StillToCome(const FileFailure& failure);
 

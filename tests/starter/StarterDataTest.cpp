@@ -6,6 +6,7 @@
 #include "regions/Availability.h"
 #include "store/ArsenalImport.h"
 #include "store/CategoryFiles.h"
+#include "store/CategoryList.h"
 #include "support/ProgramFolder.h"
 #include "text/Ansi.h"
 #include "text/LineReader.h"

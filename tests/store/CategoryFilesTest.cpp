@@ -1,6 +1,7 @@
 #include "store/CategoryFiles.h"
 
-#include "store/CategoryNames.h"
+#include "store/CategoryList.h"
+#include "store/CategoryRefusal.h"
 #include "support/ProgramFolder.h"
 #include "text/Ansi.h"
 
