@@ -11,10 +11,9 @@ namespace {
 
 bool HasGoodForm(std::string_view name) {
     constexpr std::size_t longest = 100;
-    constexpr std::size_t longestInUtf8 = 230; // file systems take 255 bytes, endings included
     const auto isEdge = [](char c) { return c == ' ' || c == '.'; };
-    return IsPlainName(name) && name.size() <= longest && ToUtf8(name).size() <= longestInUtf8 &&
-           !isEdge(name.front()) && !isEdge(name.back());
+    return IsPlainName(name) && name.size() <= longest && !isEdge(name.front()) &&
+           !isEdge(name.back());
 }
 
 // A file whose name differs at most in case; on Windows that is the same file.
@@ -42,6 +41,11 @@ std::string CategoryNameRefusal(const Disk& disk, const std::vector<std::string>
             "höchstens 100 Zeichen lang sein, keines der Zeichen \\ / : * ? \" < > | enthalten, "
             "nicht mit einem Leerzeichen oder Punkt beginnen oder enden und kein Gerätename "
             "wie CON sein."_ansi);
+    constexpr std::size_t longestInUtf8 = 230; // file systems take 255 bytes, endings included
+    if (ToUtf8(name).size() > longestInUtf8)
+        return std::string(
+            "Dieser Name ist als Dateiname zu lang, weil manche seiner Zeichen darin "
+            "mehrfach zählen; ihr müsst einen kürzeren wählen."_ansi);
     const std::string folded = FoldCase(name);
     const bool differsInCase =
         std::any_of(listed.begin(), listed.end(),

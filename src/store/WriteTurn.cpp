@@ -31,9 +31,11 @@ WriteTurn TakeTurn(const Disk& disk) {
 }
 
 std::string AfterTurn(const WriteTurn& turn, std::string text) {
-    for (auto notice = turn.notices.rbegin(); notice != turn.notices.rend(); ++notice)
-        text = *notice + (text.empty() ? "" : "\n\n" + text);
-    return text;
+    constexpr std::string_view gap = "\n\n";
+    std::string told;
+    for (const std::string& notice : turn.notices)
+        told.append(told.empty() ? "" : gap).append(notice);
+    return told.append(told.empty() || text.empty() ? "" : gap).append(text);
 }
 
 std::string FinishBeforeReading(const Disk& disk) {
