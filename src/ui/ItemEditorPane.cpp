@@ -9,7 +9,6 @@
 #include "ui/AvailabilityPage.h"
 #include "ui/Build.h"
 #include "ui/ListMenu.h"
-#include "ui/Pictures.h"
 #include "ui/Text.h"
 
 #include <QLabel>
@@ -86,16 +85,17 @@ void ItemEditorPane::ConnectList() {
 
 void ItemEditorPane::BuildItemButtons(QWidget* frame) {
     auto& items = session_.state.items;
-    itemNew_ = BuildButton(session_, frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen",
-                           "+", [&] { StartNewItem(items, session_.platform); });
-    itemDelete_ =
+    auto* itemNew =
+        BuildButton(session_, frame, "cmdItemNeu", 120, 5400, "Neuen Gegenstand erstellen", "+",
+                    [&] { StartNewItem(items, session_.platform); });
+    auto* itemDelete =
         BuildButton(session_, frame, "cmdItemDelete", 480, 5400, "Gewählten Gegenstand löschen",
                     "–", [&] { ConfirmDeleteItem(items, session_.platform); });
-    itemSave_ = BuildButton(session_, frame, "cmdItemSave", 840, 5400, "Gegenstand speichern", "✓",
-                            [&] { SaveItem(items, session_.platform); });
-    session_.mirror.Bind(itemNew_, items.cmdItemNeu);
-    session_.mirror.Bind(itemDelete_, items.cmdItemDelete, list_);
-    session_.mirror.Bind(itemSave_, items.cmdItemSave, list_);
+    auto* itemSave = BuildButton(session_, frame, "cmdItemSave", 840, 5400, "Gegenstand speichern",
+                                 "✓", [&] { SaveItem(items, session_.platform); });
+    session_.mirror.Bind(itemNew, items.cmdItemNeu);
+    session_.mirror.Bind(itemDelete, items.cmdItemDelete, list_);
+    session_.mirror.Bind(itemSave, items.cmdItemSave, list_);
 }
 
 void ItemEditorPane::BuildAdd(QWidget* window) {
@@ -121,20 +121,20 @@ void ItemEditorPane::BuildCategories(QWidget* parent) {
                         120, 240, 2655, 315);
     categories_->setPlaceholderText("Kategorie wählen …");
 
-    categoryNew_ =
+    auto* categoryNew =
         BuildButton(session_, frame, "cmdKategorieNeu", 120, 600, "Neue Kategorie erstellen", "+",
                     [&] { NewCategory(items, session_.platform); });
-    categoryDelete_ =
+    auto* categoryDelete =
         BuildButton(session_, frame, "cmdKategorieDelete", 480, 600, "Gewählte Kategorie löschen",
                     "–", [&] { DeleteCategory(items, session_.platform); });
-    print_ = BuildButton(
+    auto* print = BuildButton(
         session_, frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤", [&] {
             PrintTempDocument(state.print, session_.platform,
                               [&items](std::string& file) { WriteItemList(items, file); });
         });
-    session_.mirror.Bind(categoryNew_, items.cmdKategorieNeu);
-    session_.mirror.Bind(categoryDelete_, items.cmdKategorieDelete);
-    session_.mirror.Bind(print_, items.cmdListeDrucken);
+    session_.mirror.Bind(categoryNew, items.cmdKategorieNeu);
+    session_.mirror.Bind(categoryDelete, items.cmdKategorieDelete);
+    session_.mirror.Bind(print, items.cmdListeDrucken);
 }
 
 QWidget* ItemEditorPane::AddPage(const QString& caption) {
@@ -196,8 +196,8 @@ void ItemEditorPane::BuildProperties() {
     Place(BuildText(frame("Frame2", "Beschreibung", 105, 2880, wide), DescriptionText), 120, 210,
           inner, 315);
 
-    picture_ = Place(Named(new Picture(page), "imgItem"), 105, 3630, wide, 2130);
-    picture_->setAccessibleName("Blick in einen Laden");
+    auto* picture = Place(Named(new Picture(page), "imgItem"), 105, 3630, wide, 2130);
+    picture->setAccessibleName("Blick in einen Laden");
 }
 
 void ItemEditorPane::BuildNotice() {
@@ -215,17 +215,6 @@ void ItemEditorPane::BuildNotice() {
     notice->setWordWrap(true);
     notice->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     Place(notice, 300, 300, 5550, 5250);
-}
-
-void ItemEditorPane::LoadPictures() {
-    const auto& gfx = session_.platform.disk.folders.GfxFolder;
-    categoryNew_->SetPicture(LoadPicture(gfx / "new.bmp"));
-    categoryDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
-    itemNew_->SetPicture(LoadPicture(gfx / "new.bmp"));
-    itemDelete_->SetPicture(LoadPicture(gfx / "delete.bmp"));
-    itemSave_->SetPicture(LoadPicture(gfx / "save.bmp"));
-    print_->SetPicture(LoadPicture(gfx / "Printfld.bmp"));
-    picture_->SetImage(LoadPictureFor(gfx / "shop.jpg", picture_->size()));
 }
 
 void ItemEditorPane::FocusCategories() {

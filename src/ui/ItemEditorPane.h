@@ -17,9 +17,6 @@ public:
     /// Builds the controls into the window.
     ItemEditorPane(QWidget* window, Session& session);
 
-    /// Loads the buttons' pictures and the picture of the form.
-    void LoadPictures();
-
     /// Puts the focus on the name of the form, if that is on screen.
     void FocusName();
 
@@ -45,9 +42,6 @@ private:
     ListTable* list_ = nullptr;
     LineField* name_ = nullptr;
     ChoiceBox *categories_ = nullptr, *unit_ = nullptr;
-    Picture* picture_ = nullptr;
-    PictureButton *categoryNew_ = nullptr, *categoryDelete_ = nullptr, *print_ = nullptr;
-    PictureButton *itemNew_ = nullptr, *itemDelete_ = nullptr, *itemSave_ = nullptr;
 };
 
 } // namespace emporium::ui

@@ -52,7 +52,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
             [this] { session_.state.print.PreviewReady = true; });
     session_.mirror.Bind([this] { MirrorWindow(); });
     session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
-    LoadPictures();
+    LoadPictures(*this, session_.platform.disk);
     itemEditor_->FocusCategories();
 }
 
@@ -99,31 +99,12 @@ MainWindow::~MainWindow() {
 
 void MainWindow::BuildModes() {
     auto& state = session_.state;
-    itemMode_ = BuildButton(session_, controls_, "cmdItemEditor", 0, 0, "ItemEditor", "I",
-                            [&state] { ShowItemEditor(state); });
-    shopMode_ = BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S",
-                            [&state] { ShowShopEditor(state); });
-    help_ = BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?",
-                        [this] { OpenHelp(session_.platform); });
-}
-
-void MainWindow::LoadPictures() {
-    const auto& gfx = session_.platform.disk.folders.GfxFolder;
-    itemMode_->SetPicture(LoadPicture(gfx / "OrvanEmporium3Klein.bmp"));
-    shopMode_->SetPicture(LoadPicture(gfx / "shop.bmp"));
-    help_->SetPicture(LoadPicture(gfx / "helpklein.bmp"));
-    itemEditor_->LoadPictures();
-    shopEditor_->LoadPictures();
-}
-
-// A mode's picture is read when the mode is shown first: the start need not wait for the other one.
-const QImage& MainWindow::BackgroundOf(Mode mode) const {
-    const bool items = mode == Mode::ItemEditor;
-    auto* picture = items ? itemBackground_ : shopBackground_;
-    const char* file = items ? "OrvanEmporium3ItemEditor.jpg" : "OrvanEmporium3ShopEditor.jpg";
-    if (picture->Image().isNull())
-        picture->SetImage(LoadPictureFor(session_.platform.disk.folders.GfxFolder / file, size()));
-    return picture->Image();
+    BuildButton(session_, controls_, "cmdItemEditor", 0, 0, "ItemEditor", "I",
+                [&state] { ShowItemEditor(state); });
+    BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S",
+                [&state] { ShowShopEditor(state); });
+    BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?",
+                [this] { OpenHelp(session_.platform); });
 }
 
 void MainWindow::MirrorWindow() {
@@ -148,16 +129,13 @@ void MainWindow::paintEvent(QPaintEvent*) {
     if (!std::exchange(framed_, true) && frameGeometry() != geometry())
         QTimer::singleShot(0, this, [this] { move(CentredPlace(*this)); });
     const Mode mode = session_.state.mode;
-    const QImage& image = BackgroundOf(mode);
+    const QPixmap& background =
+        (mode == Mode::ItemEditor ? itemBackground_ : shopBackground_)->FittedTo(size());
     QPainter painter(this);
-    if (image.isNull()) {
+    if (background.isNull())
         painter.fillRect(rect(), QColor(60, 45, 32));
-    } else {
-        const bool fits = background_.devicePixelRatio() == devicePixelRatioF();
-        if (background_.isNull() || mode != backgroundMode_ || !fits)
-            background_ = FitPicture(image, size(), *this);
-        painter.drawPixmap(0, 0, background_);
-    }
+    else
+        painter.drawPixmap(0, 0, background);
     backgroundMode_ = mode;
 }
 

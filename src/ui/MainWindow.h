@@ -32,8 +32,6 @@ protected:
 private:
     void ConnectPlatform(const std::filesystem::path& programFolder);
     void BuildModes();
-    void LoadPictures();
-    const QImage& BackgroundOf(Mode mode) const;
     void MirrorWindow();
     void SetBusy(bool busy);
 
@@ -49,10 +47,8 @@ private:
     ItemEditorPane* itemEditor_;
     ShopEditorPane* shopEditor_;
     GeneratorDialog* generator_;
-    PictureButton *itemMode_ = nullptr, *shopMode_ = nullptr, *help_ = nullptr;
     Picture *itemBackground_, *shopBackground_;
-    QPixmap background_; // of the mode that was painted last
-    Mode backgroundMode_ = Mode::ItemEditor;
+    Mode backgroundMode_ = Mode::ItemEditor; // that was painted last
 };
 
 } // namespace emporium::ui

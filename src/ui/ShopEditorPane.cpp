@@ -7,7 +7,6 @@
 #include "shopeditor/ShopRecovery.h"
 #include "ui/Build.h"
 #include "ui/ListMenu.h"
-#include "ui/Pictures.h"
 #include "ui/Text.h"
 
 namespace emporium::ui {
@@ -106,19 +105,19 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
                            std::function<void()> operation) {
         return BuildButton(session_, frame, name, left, 5400, toolTip, text, std::move(operation));
     };
-    quantity_ = build("cmdShopAnzahl", "Anzahl bearbeiten", "x", 120,
-                      [&] { SetShopRowQuantity(shop, platform); });
-    remove_ = build("cmdShopDelete", "Gewählten Gegenstand löschen", "–", 480,
-                    [&] { RemoveShopRow(shop, platform); });
-    print_ = build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
+    auto* quantity = build("cmdShopAnzahl", "Anzahl bearbeiten", "x", 120,
+                           [&] { SetShopRowQuantity(shop, platform); });
+    auto* remove = build("cmdShopDelete", "Gewählten Gegenstand löschen", "–", 480,
+                         [&] { RemoveShopRow(shop, platform); });
+    build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
         PrintTempDocument(state.print, platform,
                           [&shop](std::string& file) { WriteShopPrint(shop, file); });
     });
-    export_ = build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
-    generator_ = build("cmdShopGenerator", "Shopgenerator", "W", 2640,
-                       [&] { OpenGenerator(state.generator, shop, platform); });
-    session_.mirror.Bind(quantity_, shop.cmdShopAnzahl, list_);
-    session_.mirror.Bind(remove_, shop.cmdShopDelete, list_);
+    build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
+    build("cmdShopGenerator", "Shopgenerator", "W", 2640,
+          [&] { OpenGenerator(state.generator, shop, platform); });
+    session_.mirror.Bind(quantity, shop.cmdShopAnzahl, list_);
+    session_.mirror.Bind(remove, shop.cmdShopDelete, list_);
 }
 
 void ShopEditorPane::BuildOwner() {
@@ -154,15 +153,6 @@ void ShopEditorPane::BuildField(CaptionFrame* frame, const char* name, int top,
                                 const ChoiceList& state, std::function<void(int index)> choose) {
     Place(BuildChoice(session_, frame, name, frame->accessibleName(), state, std::move(choose)),
           120, top, FieldWidth - 240, 315);
-}
-
-void ShopEditorPane::LoadPictures() {
-    const auto& gfx = session_.platform.disk.folders.GfxFolder;
-    print_->SetPicture(LoadPicture(gfx / "print.bmp"));
-    export_->SetPicture(LoadPicture(gfx / "html.bmp"));
-    generator_->SetPicture(LoadPicture(gfx / "shop.bmp"));
-    remove_->SetPicture(LoadPicture(gfx / "delete.bmp"));
-    quantity_->SetPicture(LoadPicture(gfx / "zahl.ico"));
 }
 
 } // namespace emporium::ui

@@ -14,9 +14,6 @@ public:
     /// Builds the controls into the window.
     ShopEditorPane(QWidget* window, Session& session);
 
-    /// Loads the buttons' pictures.
-    void LoadPictures();
-
 private:
     CaptionFrame* BuildFrame(int index, const QString& caption, int left, int top, int width,
                              int height);
@@ -31,8 +28,6 @@ private:
     QWidget* window_;
     Session& session_;
     ListTable* list_ = nullptr;
-    PictureButton *quantity_ = nullptr, *remove_ = nullptr, *print_ = nullptr, *export_ = nullptr,
-                  *generator_ = nullptr;
 };
 
 } // namespace emporium::ui

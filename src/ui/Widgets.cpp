@@ -1,5 +1,7 @@
 #include "ui/Widgets.h"
 
+#include "ui/Pictures.h"
+
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QScrollBar>
@@ -95,14 +97,26 @@ void PictureButton::paintEvent(QPaintEvent* event) {
         DrawFocusRing(painter, rect());
 }
 
-void Picture::SetImage(const QImage& image) {
-    image_ = image;
+void Picture::SetSource(QByteArray bytes) {
+    source_ = std::move(bytes);
+    fittedAt_ = 0;
     update();
 }
 
+const QPixmap& Picture::FittedTo(QSize place) {
+    const qreal scale = devicePixelRatioF();
+    if (fittedAt_ != scale || place != fitted_.deviceIndependentSize().toSize()) {
+        const QImage image = source_.isEmpty() || (fittedAt_ == scale && fitted_.isNull())
+                                 ? QImage()
+                                 : DecodeFor(source_, (QSizeF(place) * scale).toSize());
+        fitted_ = image.isNull() ? QPixmap() : FitPicture(image, place, *this);
+        fittedAt_ = scale;
+    }
+    return fitted_;
+}
+
 void Picture::paintEvent(QPaintEvent*) {
-    if (!image_.isNull())
-        QPainter(this).drawPixmap(0, 0, FitPicture(image_, size(), *this));
+    QPainter(this).drawPixmap(0, 0, FittedTo(size()));
 }
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {

@@ -1,6 +1,7 @@
 // The window's own kinds of controls: frames with a caption, picture buttons and drop-down lists.
 #pragma once
 
+#include <QByteArray>
 #include <QComboBox>
 #include <QImage>
 #include <QPushButton>
@@ -63,21 +64,26 @@ private:
     QImage picture_;
 };
 
-/// An image that fills its place.
+/// An image that fills a place. It is decoded when it is painted first, at the screen's scale.
 class Picture : public QWidget {
     Q_OBJECT
 
 public:
     using QWidget::QWidget;
 
-    void SetImage(const QImage& image);
-    const QImage& Image() const { return image_; }
+    /// The bytes of an image file.
+    void SetSource(QByteArray bytes);
+
+    /// The image as it fills a place of that size; null if there is none.
+    const QPixmap& FittedTo(QSize place);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QImage image_;
+    QByteArray source_;
+    QPixmap fitted_;
+    qreal fittedAt_ = 0; // the scale; 0 before it is decoded
 };
 
 /// A drop-down list without text entry. The wheel changes nothing while it is closed.
