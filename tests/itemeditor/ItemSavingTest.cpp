@@ -211,6 +211,67 @@ TEST(ItemSaving, WhatAnotherProgramDidToTheCategoriesStands) {
     EXPECT_EQ(list(), " 0 \nAlles\n");
 }
 
+TEST(ItemSaving, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew) {
+    EditorAtWork world;
+    const auto refuse = [&](std::string_view told) {
+        world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+        world.script.ExpectMessage(told);
+        DeleteCategory(world.editor, world.script.platform);
+    };
+    const auto abakus = world.program.folders.EmporiumFolder() / "Abakus.dat";
+    const std::string list = world.File("ItemKategorien");
+    world.View("Abakus");
+    for (const auto kind : {FileStatus::Kind::Other, FileStatus::Kind::Link}) {
+        world.program.Put(abakus, "/fremd/ziel.dat", kind);
+        refuse("Die Kategorie konnte nicht gelöscht werden."_ansi);
+        EXPECT_EQ(world.File("ItemKategorien"), list);
+    }
+    world.program.Put(abakus, "");
+    world.program.locked = true;
+    refuse("Ein anderes Fenster des Programms schreibt gerade.");
+    world.Fill(Hat);
+    ExpectRefusal(world, "Ein anderes Fenster des Programms schreibt gerade.");
+    world.program.locked = false;
+
+    world.program.Remove("Emporium/ItemKategorien.dat");
+    const std::string question =
+        "Die Liste der Kategorien fehlt. Soll sie neu angelegt werden, mit "
+        "den drei festen Kategorien und allen, deren Dateien da sind?";
+    world.script.ExpectYesNo(question, false);
+    NewCategory(world.editor, world.script.platform);
+    EXPECT_EQ(world.File("ItemKategorien"), "(absent)");
+    world.script.ExpectYesNo(question, true);
+    world.script.ExpectText(NamePrompt, "");
+    NewCategory(world.editor, world.script.platform);
+    EXPECT_EQ(
+        world.File("ItemKategorien"),
+        std::string(" 6 \r\nNahkampfwaffen\r\nFernwaffen\r\nRüstungen\r\nAbakus\r\nKleidung\r\n"
+                    "Öllampen\r\n"_ansi));
+    EXPECT_EQ(world.editor.cmbKategorien.Entries().size(), 7U);
+}
+
+TEST(ItemSaving, ARecordWithoutItsMarksIsNotMoved) {
+    EditorAtWork world;
+    const std::string bytes = Lines({"Seil", "", "12", "", ""});
+    world.program.Write("Emporium/Abakus.dat", bytes);
+    world.script.ExpectMessage("Nicht alles ist gelungen");
+    world.View("Abakus");
+    world.Open(0);
+    world.Fill({"Seil1", "", "12H", "", ""});
+    world.FormCategory("Kleidung");
+    world.script.ExpectYesNo(MoveQuestion, true);
+    const std::string before = world.File("Kleidung");
+    world.script.ExpectMessage("Diesem Gegenstand fehlt");
+    world.Save();
+    EXPECT_EQ(world.File("Kleidung"), before);
+    EXPECT_EQ(world.File("Abakus"), bytes);
+    world.program.Write("Emporium/Abakus.dat", Lines({"Seil1", "", "12H", "", "", "", ""}));
+    world.View("Abakus"); // empty lines at the end are no fault, and the next write drops them
+    world.Fill(Hat);
+    world.Save();
+    EXPECT_EQ(world.File("Abakus"), Lines({"Seil1", "", "12H", "", ""}) + RecordLines({Hat}));
+}
+
 TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
     EditorAtWork world;
     std::string bytes;

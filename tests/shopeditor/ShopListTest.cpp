@@ -1,5 +1,6 @@
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
+#include "shopeditor/ShopRecovery.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
 
@@ -39,6 +40,55 @@ protected:
     ShopEditor shop;
     ScriptedPlatform script;
 };
+
+TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing) {
+    ItemEditor items;
+    RemoveShopRow(shop, script.platform);
+    AddItemToShop(shop, items, script.platform);
+    EXPECT_FALSE(shop.cmdShopDelete.enabled || shop.cmdShopAnzahl.enabled);
+    items.Items.resize(1);
+    items.Items[0].record = {"Seil1", "3", "5H", "", ""};
+    script.ExpectMessage("Bitte wählt zuerst einen Gegenstand aus."_ansi);
+    AddItemToShop(shop, items, script.platform);
+    items.CurrentItemRow = 0;
+    const unsigned before = shop.lvLaden.revision;
+    AddItemToShop(shop, items, script.platform);
+    EXPECT_NE(shop.lvLaden.revision, before);
+    EXPECT_TRUE(shop.cmdShopDelete.enabled && shop.cmbShopPreise.enabled);
+    for (int command = 0; command < 3; ++command)
+        script.ExpectMessage("Bitte wählt zuerst eine Ware"_ansi);
+    RemoveShopRow(shop, script.platform);
+    SetShopRowPrice(shop, script.platform);
+    SetShopRowQuantity(shop, script.platform);
+    ChooseShopRow(shop, 0);
+    RemoveShopRow(shop, script.platform);
+    EXPECT_EQ(LastRemovedWare(shop), "Seil");
+    RecoverShopRow(shop, script.platform);
+    EXPECT_TRUE(shop.cmdShopDelete.enabled && LastRemovedWare(shop).empty());
+    RecoverShopRow(shop, script.platform);
+    EXPECT_EQ(Rows(), (Texts{"Seil 5H"}));
+    ClearShop(shop);
+    EXPECT_EQ(shop.lvLaden.current, -1);
+    while (!ShopIsFull(shop))
+        shop.lvLaden.rows.push_back(MakeShopRow(items.Record(0)));
+    script.ExpectMessage("Der Laden ist voll");
+    AddItemToShop(shop, items, script.platform);
+    EXPECT_EQ(shop.ShopCount(), MaxRows);
+}
+
+TEST_F(ShopList, WaresWhosePriceCannotBeReckonedAreNamedWhenALevelIsPicked) {
+    Add("Seil1", "5H");
+    PickPriceLevel(shop, script.platform, 3);
+    for (const char* name : {"A1", "B1", "C1", "D1", "E1", "F1", "G1"})
+        Add(name, "vielD");
+    script.ExpectMessage("Diese Waren haben einen Preis");
+    std::string told;
+    auto show = script.platform.ShowMessage;
+    script.platform.ShowMessage = [&](std::string_view text) { show(told = text); };
+    PickPriceLevel(shop, script.platform, 3);
+    EXPECT_TRUE(told.ends_with("\nE: 0D\nund 2 weitere")) << told;
+    PickPriceLevel(shop, script.platform, -1);
+}
 
 TEST_F(ShopList, RowsStandSortedByTheTextOfOneColumn) {
     Add("Zelt1", "9S");
