@@ -110,6 +110,38 @@ TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
     EXPECT_EQ(byPrice, top + tongs + axe + ear + bottom);
 }
 
+TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
+    const ProgramFolder program;
+    ScriptedPlatform script{program.folders};
+    std::filesystem::path target = program.folders.HtmlFolder / "Laden.html";
+    int viewed = 0;
+    int waiting = 0;
+    script.platform.ShowSave = [&](const auto& folder, std::string_view) {
+        EXPECT_EQ(folder, program.folders.HtmlFolder);
+        EXPECT_TRUE(std::filesystem::is_directory(folder)) << "made when it is needed";
+        return target;
+    };
+    script.platform.OpenInViewer = [&](const auto& file) { viewed += file == target ? 1 : 10; };
+    script.platform.SetWaitPointer = [&](bool on) { waiting += on ? 1 : -1; };
+    ShopEditor shop;
+    std::string document;
+    WriteShopExport(shop, document);
+    std::filesystem::remove_all(program.folders.HtmlFolder);
+    for (const bool show : {false, true}) {
+        script.ExpectYesNo(
+            "Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?.", show);
+        ExportShop(shop, script.platform);
+        EXPECT_EQ(viewed, show ? 1 : 0);
+        EXPECT_EQ(SystemFiles().read(target).bytes, document);
+    }
+    target = program.root / "fehlt" / "Laden.html";
+    script.ExpectMessage("Der Laden konnte nicht gespeichert werden.\n\nDatei: ");
+    ExportShop(shop, script.platform);
+    target.clear();
+    ExportShop(shop, script.platform);
+    EXPECT_EQ(waiting, 0);
+}
+
 TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     const ProgramFolder program;
     ScriptedPlatform script{program.folders};

@@ -143,7 +143,10 @@ TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
     ChooseGeneratorPrices(dialog, 0);
     EXPECT_FALSE(dialog.cmdStart.enabled) << "a ticked box needs a region";
     ChooseGeneratorRegion(dialog, script.platform, 18);
-    EXPECT_TRUE(dialog.cmdStart.enabled);
+    EXPECT_TRUE(dialog.cmdStart.enabled && dialog.cmbShopRegion.enabled);
+    OpenGenerator(dialog, shop, script.platform);
+    EXPECT_FALSE(dialog.chkShopRegion.ticked || dialog.cmbShopRegion.enabled || dialog.open);
+    EXPECT_EQ(dialog.cmbShopRegion.Selection(), -1);
 }
 
 TEST_F(GenerateShops, ARunStopsWithABoxAtAFullShop) {
