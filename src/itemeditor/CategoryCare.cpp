@@ -55,7 +55,7 @@ Attempt Create(const Disk& disk, const std::string& name, bool& askAgain) {
     list.names.push_back(name);
     Attempt attempt = WriteCategory(disk, name, std::move(text), std::string(), NotCreated,
                                     std::move(list.names));
-    attempt.text = AfterTurn(turn, std::move(attempt.text));
+    attempt.text = AfterTurn(turn, attempt.text);
     return attempt;
 }
 
@@ -85,7 +85,7 @@ Attempt Delete(const Disk& disk, const std::string& name) {
     std::erase(list.names, name);
     Attempt attempt =
         WriteCategory(disk, name, std::move(text), std::nullopt, NotDeleted, std::move(list.names));
-    attempt.text = AfterTurn(turn, std::move(attempt.text));
+    attempt.text = AfterTurn(turn, attempt.text);
     return attempt;
 }
 

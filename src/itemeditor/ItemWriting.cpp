@@ -107,12 +107,12 @@ Attempt TryToWrite(ItemEditor& editor, const Disk& disk, int home, const RowChan
     if (auto refusal = FileRefusal(disk, file, present, words); !refusal.empty())
         return Refused(std::move(refusal));
     if (present.bytes != *file.bytes && present.bytes != accepted)
-        return {false, AfterTurn(turn, {}), std::move(present.bytes)};
+        return {false, AfterTurn(turn, ""), std::move(present.bytes)};
     std::vector<FileChange> changes;
     if (auto refusal = more ? more(changes) : std::string(); !refusal.empty())
         return Refused(std::move(refusal));
     Attempt attempt = Write(editor, disk, home, change, words, std::move(changes));
-    attempt.text = AfterTurn(turn, std::move(attempt.text));
+    attempt.text = AfterTurn(turn, attempt.text);
     return attempt;
 }
 

@@ -30,7 +30,7 @@ WriteTurn TakeTurn(const Disk& disk) {
             {}};
 }
 
-std::string AfterTurn(const WriteTurn& turn, std::string text) {
+std::string AfterTurn(const WriteTurn& turn, std::string_view text) {
     constexpr std::string_view gap = "\n\n";
     std::string told;
     for (const std::string& notice : turn.notices)
@@ -43,7 +43,7 @@ std::string FinishBeforeReading(const Disk& disk) {
     if (disk.files.status(journal).kind == FileStatus::Kind::Absent)
         return {};
     const WriteTurn turn = TakeTurn(disk);
-    return turn.refusal.empty() ? AfterTurn(turn, {})
+    return turn.refusal.empty() ? AfterTurn(turn, "")
                                 : std::string("Ein früherer Schreibvorgang ist noch nicht beendet; "
                                               "was ihr seht, kann veraltet sein."_ansi);
 }

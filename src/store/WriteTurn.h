@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace emporium {
@@ -22,7 +23,7 @@ struct [[nodiscard]] WriteTurn {
 WriteTurn TakeTurn(const Disk& disk);
 
 /// The text of a box that opens after the turn: its notices, then the text; empty if both are.
-std::string AfterTurn(const WriteTurn& turn, std::string text);
+std::string AfterTurn(const WriteTurn& turn, std::string_view text);
 
 /// Finishes an interrupted write before its files are read, if there is one; a line for the user if
 /// that can't be done yet, and what is read may be out of date.

@@ -1,11 +1,9 @@
 #include "ui/Pictures.h"
 
-#include "ui/Text.h"
+#include "ui/ImageFiles.h"
 #include "ui/Widgets.h"
 
-#include <QBuffer>
 #include <QHash>
-#include <QImageReader>
 
 namespace emporium::ui {
 
@@ -55,29 +53,6 @@ void LoadPictures(const QWidget& window, const Disk& disk) {
     }
     for (const Shown& shown : LargePictures)
         window.findChild<Picture*>(shown.control)->SetSource(BytesOf(disk, shown.file));
-}
-
-QImage Decode(const QByteArray& bytes) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    QImage largest;
-    do {
-        const QImage image = reader.read();
-        if (image.width() > largest.width())
-            largest = image;
-    } while (reader.jumpToNextImage());
-    return largest;
-}
-
-QImage DecodeFor(const QByteArray& bytes, QSize pixels) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    const QSize wanted = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
-    if (wanted.width() < reader.size().width())
-        reader.setScaledSize(wanted);
-    return reader.read();
 }
 
 } // namespace emporium::ui

@@ -1,6 +1,6 @@
 #include "ui/Widgets.h"
 
-#include "ui/Pictures.h"
+#include "ui/ImageFiles.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
