@@ -53,13 +53,14 @@ TEST(FileExists, OnlyNormalFilesCount) {
         program.Write(std::string("Atlas/").append(name), "");
     const auto folder = program.folders.DataFolder / "Atlas";
     std::filesystem::create_directory(folder / "Ordner.ini");
-    for (const auto name : {"Kräuter.dat"_ansi, "*.dat"_ansi, "*"_ansi, "?"_ansi,
-                            "Kr?uter.dat"_ansi, "K*u*r.*t"_ansi, "*ä*"_ansi, "x*"_ansi})
+    for (const auto name :
+         {"Kräuter.dat"_ansi, "*.dat"_ansi, "*"_ansi, "?"_ansi, "Kr?uter.dat"_ansi, "K*u*r.*t"_ansi,
+          "*ä*"_ansi, "x*"_ansi, "*r.dat"_ansi})
         EXPECT_TRUE(FileExists(SystemFiles(), folder / ToPath(name))) << name;
     for (const auto name :
          {"Kräuter.da"_ansi, "Ordner.ini"_ansi, "*.ini"_ansi, ".versteckt.txt"_ansi, "*.txt"_ansi,
-          "Kr??uter.dat"_ansi, "??"_ansi, "K*u*r.*tt"_ansi, "*ö*"_ansi, "x?"_ansi, "x/a"_ansi,
-          "fehlt/*"_ansi, ""_ansi})
+          "Kr??uter.dat"_ansi, "??"_ansi, "K*u*r.*tt"_ansi, "*ö*"_ansi, "*rx.dat"_ansi, "x?"_ansi,
+          "x/a"_ansi, "fehlt/*"_ansi, ""_ansi})
         EXPECT_FALSE(FileExists(SystemFiles(), folder / ToPath(name))) << name;
 }
 

@@ -149,6 +149,16 @@ TEST(FileWriting, WhatStandsInTheWayIsRefused) {
     EXPECT_FALSE(here.Write({{"a.dat", "neu"}}).stands) << "nothing before the journal is finished";
 }
 
+TEST(FileWriting, OnlyTemporariesAreSweptAway) {
+    Writing here;
+    for (const char* name :
+         {"a.dat.orvan-neu0", "x.html.orvan-neu12", "y.orvan-neu", "z.orvan-neu1a"})
+        here.disk.Write(std::string("Emporium/") + name, "");
+    EXPECT_FALSE(RemoveStrays(here.disk.Files(), here.folder));
+    EXPECT_EQ(here.Look().size(), 5U);
+    EXPECT_TRUE(here.Look().contains("y.orvan-neu") && here.Look().contains("z.orvan-neu1a"));
+}
+
 TEST(FileWriting, AnExportGoesWhereTheUserSays) {
     Writing here;
     const FileLayer files = here.disk.Files();

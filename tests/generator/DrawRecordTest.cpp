@@ -115,18 +115,5 @@ TEST(DrawRecord, NoThrowIsMadeThatDecidesNothing) {
     EXPECT_TRUE(DrawWith({1}, Record("1"), {5, false, "GA"}));
 }
 
-TEST(DrawRecord, WaresPassInAnOrderThatLooksRandom) {
-    const std::vector<std::function<float()>> clocks = {SecondsSinceMidnight, StillClock};
-    for (const auto& clock : clocks) {
-        const auto passes = DrawMany(3000, clock, Record("Seil1"), {1, false, ""});
-        ExpectShare(passes, 2.0 / 3);
-        // The unbroken runs of the same outcome should be as many as chance makes them.
-        int runs = 1;
-        for (std::size_t i = 1; i < passes.size(); ++i)
-            runs += passes[i] != passes[i - 1] ? 1 : 0;
-        EXPECT_NEAR(runs, 2 * 3000 * (2.0 / 3) * (1.0 / 3) + 1, 150);
-    }
-}
-
 } // namespace
 } // namespace emporium::test

@@ -250,6 +250,17 @@ TEST(ItemSaving, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew) {
     EXPECT_EQ(world.editor.cmbKategorien.Entries().size(), 7U);
 }
 
+TEST(ItemSaving, ANewItemBegunOverAChosenOneLeavesThatAlone) {
+    EditorAtWork world;
+    world.View("Kleidung");
+    const std::string before = world.File("Kleidung");
+    world.Open("mantel");
+    StartNewItem(world.editor, world.script.platform);
+    world.Fill(Hat);
+    world.Save();
+    EXPECT_EQ(world.File("Kleidung"), before + RecordLines({Hat}));
+}
+
 TEST(ItemSaving, ARecordWithoutItsMarksIsNotMoved) {
     EditorAtWork world;
     const std::string bytes = Lines({"Seil", "", "12", "", ""});

@@ -54,7 +54,8 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     const unsigned before = shop.lvLaden.revision;
     AddItemToShop(shop, items, script.platform);
     EXPECT_NE(shop.lvLaden.revision, before);
-    EXPECT_TRUE(shop.cmdShopDelete.enabled && shop.cmbShopPreise.enabled);
+    EXPECT_TRUE(shop.cmdShopDelete.enabled && shop.cmdShopAnzahl.enabled &&
+                shop.cmbShopPreise.enabled);
     for (int command = 0; command < 3; ++command)
         script.ExpectMessage("Bitte wählt zuerst eine Ware"_ansi);
     RemoveShopRow(shop, script.platform);

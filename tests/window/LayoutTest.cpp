@@ -76,15 +76,6 @@ TEST_F(WindowTest, NoCaptionOrEntryIsCutOff) {
     }
 }
 
-TEST_F(WindowTest, PictureButtonsSayWhatTheyDo) {
-    Open();
-    for (const auto* button : window->findChildren<ui::PictureButton*>()) {
-        EXPECT_FALSE(button->toolTip().isEmpty()) << qPrintable(button->objectName());
-        EXPECT_EQ(button->accessibleName(), button->toolTip());
-        EXPECT_FALSE(button->text().isEmpty()) << "nothing to see without a picture";
-    }
-}
-
 TEST_F(WindowTest, TheModesShowTheirPartsOfTheWindow) {
     Open();
     const auto visible = [this](const char* name) { return driver->Find(name)->isVisible(); };
