@@ -42,12 +42,15 @@ struct Installation {
 };
 
 TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
-    const Installation here;
-    for (const char* file : {"Emporium/Fernwaffen.dat.orvan-neu0", "../Temp/Temp.html.orvan-neu1"})
+    Installation here;
+    here.script.ExpectMessage("Nicht alles ist gelungen:\n\nSchreibvorgang.orvan-journal: ");
+    for (const char* file : {"Emporium/Schreibvorgang.orvan-journal",
+                             "Emporium/Fernwaffen.dat.orvan-neu0", "../Temp/Temp.html.orvan-neu1"})
         here.program.Write(file, "what a killed run left");
     for (int start = 0; start < 2; ++start) {
         frmEmporiumMain window;
         EXPECT_TRUE(StartUp(window, here.script.platform));
+        fs::remove(here.program.folders.EmporiumFolder() / "Schreibvorgang.orvan-journal-beiseite");
         here.ExpectUpToDate();
         EXPECT_TRUE(fs::is_empty(here.program.folders.TempFolder));
     }
