@@ -91,7 +91,9 @@ void WindowDriver::Press(const QWidget& dialog, const QString& text) {
 void WindowDriver::LookForDialog() {
     handled_.removeIf([](const auto& shown) { return !shown || !shown->isVisible(); });
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog || !dialog->isVisible() || handled_.contains(dialog))
+    // A print on a busy machine takes long enough for its box, which goes by itself.
+    if (!dialog || !dialog->isVisible() || handled_.contains(dialog) ||
+        dialog->objectName() == "PrintProgress")
         return;
     handled_ += dialog;
     if (handlers_.empty()) {
