@@ -58,18 +58,19 @@ std::string NoDataText(const Disk& disk) {
 // While an interrupted write can't be finished, nothing is written on top of it.
 // The text of a box if so.
 std::string BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
-    const WriteTurn turn = TakeTurn(disk);
-    faults.insert(faults.end(), turn.notices.begin(), turn.notices.end());
-    if (!turn.refusal.empty())
-        return turn.refusal;
-    if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))
-        faults.push_back(FaultLine(*failure));
-    // Half a page that stays because it can't be removed does no harm.
-    for (const auto& pages : {disk.folders.HtmlFolder, disk.folders.TempFolder})
-        static_cast<void>(RemoveStrays(disk.files, pages));
-    RenameOldCategoryFiles(disk, faults);
-    ImportArsenal(disk, faults);
-    return {};
+    Outcome outcome = InTurn(disk, [&]() -> Outcome {
+        if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))
+            faults.push_back(FaultLine(*failure));
+        // Half a page that stays because it can't be removed does no harm.
+        for (const auto& pages : {disk.folders.HtmlFolder, disk.folders.TempFolder})
+            static_cast<void>(RemoveStrays(disk.files, pages));
+        RenameOldCategoryFiles(disk, faults);
+        ImportArsenal(disk, faults);
+        return {true, {}};
+    });
+    if (outcome.stands && !outcome.text.empty())
+        faults.insert(faults.begin(), std::exchange(outcome.text, {}));
+    return std::move(outcome.text);
 }
 
 } // namespace

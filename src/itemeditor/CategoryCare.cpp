@@ -1,6 +1,5 @@
 #include "itemeditor/CategoryCare.h"
 
-#include "files/FileWriting.h"
 #include "itemeditor/CategoryChoice.h"
 #include "store/CategoryList.h"
 #include "store/CategoryRefusal.h"
@@ -15,48 +14,33 @@ namespace {
 constexpr std::string_view NotCreated = "Die Kategorie konnte nicht angelegt werden.";
 constexpr std::string_view NotDeleted = "Die Kategorie konnte nicht gelöscht werden."_ansi;
 
-// What a try to change the list and a category's file came to. The text is for a box that opens
-// when the turn is over.
-struct Attempt {
-    bool stands = false;
-    std::string text;
-    std::vector<std::string> names; // of the list, if the change stands
-};
-
-Attempt Refused(std::string_view what, std::string_view why) {
-    return {false, std::string(what) + "\n\n" + std::string(why), {}};
+Outcome Refused(std::string_view what, std::string_view why) {
+    return {false, std::string(what) + "\n\n" + std::string(why)};
 }
 
-// Writes the list's new text and what becomes of the category's file.
-Attempt WriteCategory(const Disk& disk, std::string_view name, std::string listText,
-                      std::optional<std::string> contents, std::string_view what,
-                      std::vector<std::string> names) {
-    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(),
-                                   {{CategoryListPath(disk.folders), std::move(listText)},
-                                    {CategoryPath(disk.folders, name), std::move(contents)}});
-    if (!result.stands)
-        return {false, FailureText(what, *result.failure), {}};
-    return {true, result.failure ? StillToCome(*result.failure) : std::string(), std::move(names)};
+// Writes the new list and what becomes of the category's file, and shows the list's names.
+Outcome WriteList(ItemEditor& editor, const Disk& disk, const CategoryList& list,
+                  std::string_view name, std::optional<std::string> contents,
+                  std::string_view what) {
+    Outcome outcome = WriteChanges(disk,
+                                   {{CategoryListPath(disk.folders), list.bytes},
+                                    {CategoryPath(disk.folders, name), std::move(contents)}},
+                                   what);
+    if (outcome.stands)
+        SetCategoryNames(editor, list.names);
+    return outcome;
 }
 
-// A refusal of the name alone leaves the user to choose another one.
-Attempt Create(const Disk& disk, const std::string& name, bool& askAgain) {
-    const WriteTurn turn = TakeTurn(disk);
-    if (!turn.refusal.empty())
-        return {false, turn.refusal, {}};
-    CategoryList list = ReadCategoryNames(disk);
+// The caller has the turn. A refusal of the name alone leaves the user to choose another one.
+Outcome Create(ItemEditor& editor, const Disk& disk, const std::string& name, bool& askAgain) {
+    const CategoryList list = ReadCategoryNames(disk);
     if (const auto fault = CategoryListFault(list); !fault.empty())
         return Refused(NotCreated, fault);
     std::string refusal = CategoryNameRefusal(disk, list.names, name);
     askAgain = !refusal.empty();
     if (askAgain)
-        return {false, std::move(refusal), {}};
-    std::string text = WithCategory(list, name);
-    list.names.push_back(name);
-    Attempt attempt = WriteCategory(disk, name, std::move(text), std::string(), NotCreated,
-                                    std::move(list.names));
-    attempt.text = AfterTurn(turn, attempt.text);
-    return attempt;
+        return {false, std::move(refusal)};
+    return WriteList(editor, disk, WithCategory(list, name), name, std::string(), NotCreated);
 }
 
 // Why the category's file stays, empty if it can go.
@@ -72,21 +56,14 @@ std::string FileRefusal(const Disk& disk, const std::string& name) {
     return {};
 }
 
-Attempt Delete(const Disk& disk, const std::string& name) {
-    const WriteTurn turn = TakeTurn(disk);
-    if (!turn.refusal.empty())
-        return {false, turn.refusal, {}};
-    CategoryList list = ReadCategoryNames(disk);
+// The caller has the turn.
+Outcome Delete(ItemEditor& editor, const Disk& disk, const std::string& name) {
+    const CategoryList list = ReadCategoryNames(disk);
     if (const auto fault = CategoryListFault(list); !fault.empty())
         return Refused(NotDeleted, fault);
     if (auto refusal = FileRefusal(disk, name); !refusal.empty())
-        return {false, std::move(refusal), {}};
-    std::string text = WithoutCategory(list, name);
-    std::erase(list.names, name);
-    Attempt attempt =
-        WriteCategory(disk, name, std::move(text), std::nullopt, NotDeleted, std::move(list.names));
-    attempt.text = AfterTurn(turn, attempt.text);
-    return attempt;
+        return {false, std::move(refusal)};
+    return WriteList(editor, disk, WithoutCategory(list, name), name, std::nullopt, NotDeleted);
 }
 
 // The fixed categories and those whose files are there.
@@ -105,26 +82,24 @@ std::string ListMadeAnew(const Disk& disk) {
     return text;
 }
 
-Attempt MakeListAnew(const Disk& disk) {
-    const WriteTurn turn = TakeTurn(disk);
-    if (!turn.refusal.empty())
-        return {false, turn.refusal, {}};
-    if (ReadCategoryNames(disk).state == FileText::State::Absent) {
-        const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(),
-                                       {{CategoryListPath(disk.folders), ListMadeAnew(disk)}});
-        if (result.failure)
-            return {false, FailureText(NotCreated, *result.failure), {}};
-    }
-    return {true, {}, ReadCategoryNames(disk).names};
+// The caller has the turn.
+Outcome MakeListAnew(ItemEditor& editor, const Disk& disk) {
+    Outcome outcome{true, {}};
+    if (ReadCategoryNames(disk).state == FileText::State::Absent)
+        outcome =
+            WriteChanges(disk, {{CategoryListPath(disk.folders), ListMadeAnew(disk)}}, NotCreated);
+    if (outcome.stands)
+        SetCategoryNames(editor, ReadCategoryNames(disk).names);
+    return outcome;
 }
 
-bool Show(ItemEditor& editor, const Platform& platform, const Attempt& attempt) {
-    if (attempt.stands)
-        SetCategoryNames(editor, attempt.names);
+// The change of the list in one turn; false if it does not stand.
+bool Change(ItemEditor& editor, const Platform& platform, const std::function<Outcome()>& change) {
+    const Outcome outcome = InTurn(platform.disk, change);
     UpdateItemButtons(editor);
-    if (!attempt.text.empty())
-        platform.ShowMessage(attempt.text);
-    return attempt.stands;
+    if (!outcome.text.empty())
+        platform.ShowMessage(outcome.text);
+    return outcome.stands;
 }
 
 // False if there is no list and the user does not want one.
@@ -134,7 +109,7 @@ bool EnsureList(ItemEditor& editor, const Platform& platform) {
     return platform.AskYesNo(
                {std::string("Die Liste der Kategorien fehlt. Soll sie neu angelegt werden, mit den "
                             "drei festen Kategorien und allen, deren Dateien da sind?"_ansi)}) &&
-           Show(editor, platform, MakeListAnew(platform.disk));
+           Change(editor, platform, [&] { return MakeListAnew(editor, platform.disk); });
 }
 
 } // namespace
@@ -147,10 +122,10 @@ void NewCategory(ItemEditor& editor, const Platform& platform) {
         const std::string name = platform.AskText("Bitte gebt der Kategorie einen Namen.", {});
         if (name.empty())
             return;
-        const Attempt attempt = Create(platform.disk, name, askAgain);
-        if (attempt.stands && editor.cmbKategorien.Text() == AllCategories)
+        const bool stands =
+            Change(editor, platform, [&] { return Create(editor, platform.disk, name, askAgain); });
+        if (stands && editor.cmbKategorien.Text() == AllCategories)
             editor.viewFiles.push_back({name, std::make_shared<const std::string>(), true});
-        Show(editor, platform, attempt);
     }
 }
 
@@ -166,10 +141,12 @@ void DeleteCategory(ItemEditor& editor, const Platform& platform) {
                                "deshalb wird sie nicht gelöscht."_ansi));
         return;
     }
-    const Attempt attempt = Delete(platform.disk, name);
-    if (attempt.stands)
-        ResetView(editor);
-    Show(editor, platform, attempt);
+    Change(editor, platform, [&] {
+        Outcome outcome = Delete(editor, platform.disk, name);
+        if (outcome.stands)
+            ResetView(editor);
+        return outcome;
+    });
 }
 
 } // namespace emporium

@@ -21,7 +21,7 @@ void EndEditing(ItemEditor& editor) {
 void RemoveItemRow(ItemEditor& editor, const Platform& platform, const WriteWording& words,
                    const MoreChanges& more = {}) {
     const int row = editor.CurrentItemRow;
-    if (!WriteRow(editor, platform, editor.HomeOf(row), {row, nullptr}, words, more))
+    if (!WriteRow(editor, platform, {row, editor.HomeOf(row), nullptr}, words, more))
         return;
     DropItemRow(editor, row);
     EndEditing(editor);
@@ -60,7 +60,7 @@ void SaveMoved(ItemEditor& editor, const Platform& platform) {
 void SaveChanged(ItemEditor& editor, const Platform& platform, const ItemRecord& record) {
     const int row = editor.CurrentItemRow;
     if (ViewOf(record) != editor.Record(row)) {
-        if (!WriteRow(editor, platform, editor.HomeOf(row), {row, &record}, SavingWords))
+        if (!WriteRow(editor, platform, {row, editor.HomeOf(row), &record}, SavingWords))
             return;
         PlaceItemRow(editor, row);
     }
@@ -74,36 +74,27 @@ void SaveIntoView(ItemEditor& editor, const Platform& platform, int home,
         platform.ShowMessage("Die Ansicht ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi);
         return;
     }
-    if (!WriteRow(editor, platform, home, {row, &record}, SavingWords))
+    if (!WriteRow(editor, platform, {row, home, &record}, SavingWords))
         return;
     AddItemRow(editor, row);
     UpdateItemButtons(editor);
     EndEditing(editor);
 }
 
-// Writes the record behind the others of a category that the view does not know. The result is the
-// text of a box, mostly empty.
-std::string WriteOutsideView(const Disk& disk, const std::string& category,
-                             const ItemRecord& record, bool& stands) {
-    const WriteTurn turn = TakeTurn(disk);
-    if (!turn.refusal.empty())
-        return turn.refusal;
-    std::vector<FileChange> changes;
-    if (auto refusal = AppendTo(disk, category, record, changes); !refusal.empty())
-        return refusal;
-    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), std::move(changes));
-    stands = result.stands;
-    return result.failure ? FailureText(SavingWords.failed, *result.failure) : std::string();
-}
-
-// The category of the form becomes the view.
+// Writes the record behind the others of a category that the view does not know. The category of
+// the form becomes the view.
 void SaveOutsideView(ItemEditor& editor, const Platform& platform, const ItemRecord& record) {
-    bool stands = false;
-    const std::string text =
-        WriteOutsideView(platform.disk, editor.cmbItemKategorien.Text(), record, stands);
-    if (!text.empty())
-        platform.ShowMessage(text);
-    if (stands)
+    const Disk& disk = platform.disk;
+    const Outcome outcome = InTurn(disk, [&]() -> Outcome {
+        std::vector<FileChange> changes;
+        if (auto refusal = AppendTo(disk, editor.cmbItemKategorien.Text(), record, changes);
+            !refusal.empty())
+            return {false, std::move(refusal)};
+        return WriteChanges(disk, std::move(changes), SavingWords.failed);
+    });
+    if (!outcome.text.empty())
+        platform.ShowMessage(outcome.text);
+    if (outcome.stands)
         ChooseCategory(editor, platform, editor.cmbItemKategorien.Selection());
 }
 

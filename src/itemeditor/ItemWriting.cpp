@@ -37,17 +37,6 @@ bool IsListed(const Disk& disk, const std::string& category) {
            std::find(list.names.begin(), list.names.end(), category) != list.names.end();
 }
 
-// What one try came to. The text is for a box that opens when the turn is over.
-struct Attempt {
-    bool stands = false;
-    std::string text;
-    std::optional<std::string> foreign; // what another program has made of the file
-};
-
-Attempt Refused(std::string text) {
-    return {false, std::move(text), std::nullopt};
-}
-
 std::string FileTextWith(const ItemEditor& editor, std::string_view bytes,
                          const RowChange& change) {
     if (change.row == editor.ItemCount())
@@ -58,16 +47,16 @@ std::string FileTextWith(const ItemEditor& editor, std::string_view bytes,
 }
 
 // The records as the file holds them now.
-void TakeOver(ItemEditor& editor, int home, const RowChange& change, SharedText text) {
+void TakeOver(ItemEditor& editor, const RowChange& change, SharedText text) {
     if (change.row == editor.ItemCount())
-        editor.Items.push_back({{}, home});
+        editor.Items.push_back({{}, change.home});
     else if (!change.record)
         editor.Items.erase(editor.Items.begin() + change.row);
     RecordReader reader(*text);
     for (ItemRow& row : editor.Items)
-        if (row.home == home)
+        if (row.home == change.home)
             reader.Next(row.record);
-    editor.viewFiles[static_cast<std::size_t>(home)].bytes = std::move(text);
+    editor.viewFiles[static_cast<std::size_t>(change.home)].bytes = std::move(text);
 }
 
 // Why the row's file can't be written at all; empty if it can.
@@ -82,57 +71,52 @@ std::string FileRefusal(const Disk& disk, const ViewFile& file, const FileText& 
     return {};
 }
 
-Attempt Write(ItemEditor& editor, const Disk& disk, int home, const RowChange& change,
-              const WriteWording& words, std::vector<FileChange> changes) {
-    const ViewFile& file = editor.FileAt(home);
-    auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
-    changes.push_back({CategoryPath(disk.folders, file.name), *text});
-    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), std::move(changes));
-    if (!result.stands)
-        return Refused(FailureText(words.failed, *result.failure));
-    TakeOver(editor, home, change, std::move(text));
-    return {true, result.failure ? StillToCome(*result.failure) : std::string(), std::nullopt};
-}
+using MaybeText = std::optional<std::string>;
 
-// Compares and writes in one turn. `accepted` is a foreign state that the user has seen and wants
-// to write over.
-Attempt TryToWrite(ItemEditor& editor, const Disk& disk, int home, const RowChange& change,
-                   const WriteWording& words, const MoreChanges& more,
-                   const std::optional<std::string>& accepted) {
-    const WriteTurn turn = TakeTurn(disk);
-    if (!turn.refusal.empty())
-        return Refused(turn.refusal);
-    const ViewFile& file = editor.FileAt(home);
+// Compares and writes; the caller has the turn. `accepted` is another program's state of the file
+// that the user wants to write over. At any other nothing is written, and it becomes `foreign`.
+Outcome CompareAndWrite(ItemEditor& editor, const Disk& disk, const RowChange& change,
+                        const WriteWording& words, const MoreChanges& more,
+                        const MaybeText& accepted, MaybeText& foreign) {
+    const ViewFile& file = editor.FileAt(change.home);
     FileText present = disk.files.read(CategoryPath(disk.folders, file.name));
     if (auto refusal = FileRefusal(disk, file, present, words); !refusal.empty())
-        return Refused(std::move(refusal));
-    if (present.bytes != *file.bytes && present.bytes != accepted)
-        return {false, AfterTurn(turn, ""), std::move(present.bytes)};
+        return {false, std::move(refusal)};
+    if (present.bytes != *file.bytes && present.bytes != accepted) {
+        foreign = std::move(present.bytes);
+        return {};
+    }
     std::vector<FileChange> changes;
     if (auto refusal = more ? more(changes) : std::string(); !refusal.empty())
-        return Refused(std::move(refusal));
-    Attempt attempt = Write(editor, disk, home, change, words, std::move(changes));
-    attempt.text = AfterTurn(turn, attempt.text);
-    return attempt;
+        return {false, std::move(refusal)};
+    auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
+    changes.push_back({CategoryPath(disk.folders, file.name), *text});
+    Outcome outcome = WriteChanges(disk, std::move(changes), words.failed);
+    if (outcome.stands)
+        TakeOver(editor, change, std::move(text));
+    return outcome;
 }
 
 } // namespace
 
-bool WriteRow(ItemEditor& editor, const Platform& platform, int home, const RowChange& change,
+bool WriteRow(ItemEditor& editor, const Platform& platform, const RowChange& change,
               const WriteWording& words, const MoreChanges& more) {
-    std::optional<std::string> accepted;
-    for (;;) {
-        Attempt attempt = TryToWrite(editor, platform.disk, home, change, words, more, accepted);
-        if (!attempt.text.empty())
-            platform.ShowMessage(attempt.text);
-        if (!attempt.foreign)
-            return attempt.stands;
-        if (!platform.AskYesNo(
-                {editor.FileAt(home).name + std::string(words.question), BoxIcon::Warning, true})) {
+    const Disk& disk = platform.disk;
+    for (MaybeText accepted;;) {
+        MaybeText foreign;
+        const Outcome outcome = InTurn(disk, [&] {
+            return CompareAndWrite(editor, disk, change, words, more, accepted, foreign);
+        });
+        if (!outcome.text.empty())
+            platform.ShowMessage(outcome.text);
+        if (!foreign)
+            return outcome.stands;
+        const std::string& name = editor.FileAt(change.home).name;
+        if (!platform.AskYesNo({name + std::string(words.question), BoxIcon::Warning, true})) {
             ReloadItems(editor, platform);
             return false;
         }
-        accepted = std::move(attempt.foreign);
+        accepted = std::move(foreign);
     }
 }
 

@@ -16,6 +16,7 @@ namespace emporium {
 /// A change of one row of the view; the row ItemCount is a new one.
 struct RowChange {
     int row;
+    int home;                 // the index of its file in viewFiles
     const ItemRecord* record; // null: the row goes
 };
 
@@ -36,7 +37,7 @@ using MoreChanges = std::function<std::string(std::vector<FileChange>& changes)>
 /// Writes the file of the view that the row belongs to, and takes the change over into the records.
 /// If another program has changed the file, the user is asked; if he does not want to write over
 /// that, the view is read again and the form stays. False, after a box, if nothing was written.
-bool WriteRow(ItemEditor& editor, const Platform& platform, int home, const RowChange& change,
+bool WriteRow(ItemEditor& editor, const Platform& platform, const RowChange& change,
               const WriteWording& words, const MoreChanges& more = {});
 
 /// Adds the file of a category with the record behind its last one. The result is a refusal if that

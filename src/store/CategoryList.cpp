@@ -34,10 +34,12 @@ std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
     return names;
 }
 
-// The list's text with the number of its names on the first line.
-std::string Numbered(std::string_view listText) {
-    return " " + std::to_string(NamesIn(listText, listText.size()).size()) + " " +
-           std::string(LineEndOf(listText)) + std::string(listText.substr(listText.find('\n') + 1));
+// The list of that text, with the number of its names on the first line.
+CategoryList Numbered(std::string_view listText) {
+    CategoryList list{FileText::State::Whole, {}, {}, NamesIn(listText, listText.size())};
+    list.bytes = " " + std::to_string(list.names.size()) + " " + std::string(LineEndOf(listText)) +
+                 std::string(listText.substr(listText.find('\n') + 1));
+    return list;
 }
 
 } // namespace
@@ -69,14 +71,14 @@ std::string CategoryListFault(const CategoryList& list) {
                        "verändert."_ansi);
 }
 
-std::string WithCategory(const CategoryList& list, std::string_view name) {
+CategoryList WithCategory(const CategoryList& list, std::string_view name) {
     const std::string_view lineEnd = LineEndOf(list.bytes);
     std::string text = list.bytes;
     EndLastLine(text, lineEnd);
     return Numbered(text.append(name).append(lineEnd));
 }
 
-std::string WithoutCategory(const CategoryList& list, std::string_view name) {
+CategoryList WithoutCategory(const CategoryList& list, std::string_view name) {
     std::string text;
     std::string_view rest = list.bytes;
     for (bool isNumber = true; !rest.empty(); isNumber = false) {

@@ -25,9 +25,9 @@ CategoryList ReadCategoryNames(const Disk& disk);
 /// many names as its first line says and may be damaged. Empty if all is well.
 std::string CategoryListFault(const CategoryList& list);
 
-/// The bytes of a list without a fault, with a further name or without one, and with the right
-/// number on its first line. All other lines stay.
-std::string WithCategory(const CategoryList& list, std::string_view name);
-std::string WithoutCategory(const CategoryList& list, std::string_view name);
+/// A list without a fault, with a further name or without one, and with the right number on its
+/// first line. All other lines stay.
+CategoryList WithCategory(const CategoryList& list, std::string_view name);
+CategoryList WithoutCategory(const CategoryList& list, std::string_view name);
 
 } // namespace emporium

@@ -4,55 +4,64 @@
 #include "files/Recovery.h"
 #include "text/Ansi.h"
 
+#include <memory>
+
 namespace emporium {
 
-WriteTurn TakeTurn(const Disk& disk) {
-    const auto folder = disk.folders.EmporiumFolder();
-    WriteTurn turn;
-    const auto error = disk.files.lock(folder, turn.lock);
+namespace {
+
+Outcome CannotLock(const std::filesystem::path& folder, const std::error_code& error) {
     if (error == std::errc::device_or_resource_busy)
-        return {nullptr,
-                std::string("Ein anderes Fenster des Programms schreibt gerade. Versucht es gleich "
-                            "noch einmal."_ansi),
-                {}};
-    if (error)
-        return {
-            nullptr,
-            FailureText("Der Ordner der Kategorien ist nicht zugänglich."_ansi, {folder, error}),
-            {}};
-    Recovery recovery = FinishJournal(disk.files, folder);
-    turn.notices = std::move(recovery.notices);
-    if (!recovery.failure)
-        return turn;
-    return {nullptr,
-            FailureText("Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi,
-                        *recovery.failure),
-            {}};
+        return {false, std::string("Ein anderes Fenster des Programms schreibt gerade. Versucht es "
+                                   "gleich noch einmal."_ansi)};
+    return {false,
+            FailureText("Der Ordner der Kategorien ist nicht zugänglich."_ansi, {folder, error})};
 }
 
-std::string AfterTurn(const WriteTurn& turn, std::string_view text) {
-    constexpr std::string_view gap = "\n\n";
+// The notices, then the text, with a line between.
+std::string Told(const std::vector<std::string>& notices, std::string_view text) {
     std::string told;
-    for (const std::string& notice : turn.notices)
-        told.append(told.empty() ? "" : gap).append(notice);
-    return told.append(told.empty() || text.empty() ? "" : gap).append(text);
+    for (const std::string& notice : notices)
+        told.append(notice).append("\n\n");
+    told += text;
+    return text.empty() ? told.substr(0, told.find_last_not_of('\n') + 1) : told;
+}
+
+} // namespace
+
+Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work) {
+    const auto folder = disk.folders.EmporiumFolder();
+    std::shared_ptr<void> lock;
+    if (const auto error = disk.files.lock(folder, lock))
+        return CannotLock(folder, error);
+    const Recovery recovery = FinishJournal(disk.files, folder);
+    if (recovery.failure)
+        return {false, FailureText("Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi,
+                                   *recovery.failure)};
+    Outcome outcome = work();
+    outcome.text = Told(recovery.notices, outcome.text);
+    return outcome;
+}
+
+Outcome WriteChanges(const Disk& disk, std::vector<FileChange> changes, std::string_view what) {
+    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), std::move(changes));
+    if (!result.failure)
+        return {true, {}};
+    if (result.stands)
+        what = "Die Änderung gilt, aber eine Datei konnte noch nicht geschrieben werden. Das wird "
+               "beim nächsten Speichern oder beim nächsten Start nachgeholt; bis dahin wird nichts "
+               "anderes geschrieben."_ansi;
+    return {result.stands, FailureText(what, *result.failure)};
 }
 
 std::string FinishBeforeReading(const Disk& disk) {
     const auto journal = disk.folders.EmporiumFolder() / JournalName;
     if (disk.files.status(journal).kind == FileStatus::Kind::Absent)
         return {};
-    const WriteTurn turn = TakeTurn(disk);
-    return turn.refusal.empty() ? AfterTurn(turn, "")
-                                : std::string("Ein früherer Schreibvorgang ist noch nicht beendet; "
-                                              "was ihr seht, kann veraltet sein."_ansi);
-}
-
-std::string StillToCome(const FileFailure& failure) {
-    return FailureText("Die Änderung gilt, aber eine Datei konnte noch nicht geschrieben werden. "
-                       "Das wird beim nächsten Speichern oder beim nächsten Start nachgeholt; bis "
-                       "dahin wird nichts anderes geschrieben."_ansi,
-                       failure);
+    Outcome outcome = InTurn(disk, [] { return Outcome{true, {}}; });
+    return outcome.stands ? std::move(outcome.text)
+                          : std::string("Ein früherer Schreibvorgang ist noch nicht beendet; "
+                                        "was ihr seht, kann veraltet sein."_ansi);
 }
 
 } // namespace emporium

@@ -3,33 +3,32 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "files/FileFailure.h"
+#include "files/FileWriting.h"
 
-#include <memory>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace emporium {
 
-/// The turn lasts as long as this lives. No box may open meanwhile.
-struct [[nodiscard]] WriteTurn {
-    std::shared_ptr<void> lock;
-    std::string refusal;              // why nothing may be written, the text of a box; mostly empty
-    std::vector<std::string> notices; // of an interrupted write that was finished, a line each
+/// What an operation on the stored data came to, and what the user is to be told of it.
+struct [[nodiscard]] Outcome {
+    bool stands = false; // what was wanted is on the disk, or will be when a failure has passed
+    std::string text;    // of a box that opens when the turn is over; mostly empty
 };
 
-/// Waits some seconds for the turn, and finishes an interrupted write before anything else.
-WriteTurn TakeTurn(const Disk& disk);
+/// Waits some seconds for the turn, finishes an interrupted write and then does the work, in which
+/// no box may open. What that write has left to tell stands above the work's text. If the turn
+/// can't be had the work is not done, and the text says why.
+Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work);
 
-/// The text of a box that opens after the turn: its notices, then the text; empty if both are.
-std::string AfterTurn(const WriteTurn& turn, std::string_view text);
+/// Writes files of the categories' folder, see WriteFiles; the caller has the turn. `what` begins
+/// the text of a failure: what could not be done.
+Outcome WriteChanges(const Disk& disk, std::vector<FileChange> changes, std::string_view what);
 
 /// Finishes an interrupted write before its files are read, if there is one; a line for the user if
 /// that can't be done yet, and what is read may be out of date.
 std::string FinishBeforeReading(const Disk& disk);
-
-/// The text of a box: the change stands, but one file is still to be written.
-std::string StillToCome(const FileFailure& failure);
 
 } // namespace emporium

@@ -218,7 +218,7 @@ inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare
         world.script.Forget();
         const bool reached = disk.calls >= n;
         disk.CutPower((killed & 2) != 0, (killed & 4) != 0); // each of them, both or none
-        EXPECT_TRUE(TakeTurn(world.script.platform.disk).refusal.empty());
+        EXPECT_TRUE(InTurn(world.script.platform.disk, [] { return Outcome{true, {}}; }).stands);
         EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
         if (killed == 0) {
             const bool stands = world.Files() == filesAfter;
