@@ -23,8 +23,8 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
 
 // Writes the document and has the view load it. Leaves the text of a box in `fault` if that failed;
 // true if the page is there.
-bool Load(PrintHost& host, const Platform& platform,
-          const std::function<void(std::string& file)>& writer, std::string& fault) {
+bool Load(PrintHost& host, const Platform& platform, const DocumentWriter& writer,
+          std::string& fault) {
     const auto page = platform.disk.folders.TempFolder / "Temp.html";
     host.PreviewReady = false;
     std::string document;
@@ -44,8 +44,7 @@ bool Load(PrintHost& host, const Platform& platform,
 }
 
 // The result is the text of a box, empty if all is well.
-std::string Print(PrintHost& host, const Platform& platform,
-                  const std::function<void(std::string& file)>& writer) {
+std::string Print(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
     std::string fault;
     platform.SetWaitPointer(true);
     const bool loaded = Load(host, platform, writer, fault);
@@ -58,8 +57,7 @@ std::string Print(PrintHost& host, const Platform& platform,
 
 } // namespace
 
-void PrintTempDocument(PrintHost& host, const Platform& platform,
-                       const std::function<void(std::string& file)>& writer) {
+void PrintTempDocument(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
     if (host.busy)
         return;
     host.busy = true;

@@ -16,10 +16,12 @@ struct PrintHost {
     bool busy = false; // while a print is under way, no other command takes input
 };
 
+/// Appends the document to the text.
+using DocumentWriter = std::function<void(std::string& document)>;
+
 /// Prints the document that the writer makes. If the file can't be written, the page does not load
 /// in time or the printer fails, a box says so; the editors stay as they are. Ends quietly if the
 /// window is closed meanwhile. While a print is busy, a second one does nothing.
-void PrintTempDocument(PrintHost& host, const Platform& platform,
-                       const std::function<void(std::string& file)>& writer);
+void PrintTempDocument(PrintHost& host, const Platform& platform, const DocumentWriter& writer);
 
 } // namespace emporium

@@ -1,8 +1,6 @@
 #include "documents/ShopDocument.h"
 
 #include "documents/HTMLExport.h"
-#include "files/FileWriting.h"
-#include "shopeditor/ShopList.h"
 #include "text/Ansi.h"
 
 namespace emporium {
@@ -63,26 +61,6 @@ void WriteShopPrint(const ShopEditor& shop, std::string& document) {
         HTMLLine("</tr>", document);
     }
     HTMLLine("</table>", document);
-}
-
-void ExportShop(const ShopEditor& shop, const Platform& platform) {
-    platform.disk.files.createFolder(platform.disk.folders.HtmlFolder);
-    const auto target =
-        platform.ShowSave(platform.disk.folders.HtmlFolder, "HTML-Dateien (*.html)|*.html");
-    if (target.empty())
-        return;
-    platform.SetWaitPointer(true);
-    std::string document;
-    WriteShopExport(shop, document);
-    const auto failure = WriteDocument(platform.disk.files, target, document);
-    platform.SetWaitPointer(false);
-    if (failure) {
-        platform.ShowMessage(FailureText("Der Laden konnte nicht gespeichert werden.", *failure));
-        return;
-    }
-    if (platform.AskYesNo(
-            {"Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?."}))
-        platform.OpenInViewer(target);
 }
 
 } // namespace emporium

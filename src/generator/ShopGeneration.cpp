@@ -2,7 +2,7 @@
 
 #include "base/Subs.h"
 #include "files/FileFailure.h"
-#include "generator/GeneratorConfig.h"
+#include "generator/ShopTypes.h"
 #include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 #include "shopeditor/ShopFields.h"

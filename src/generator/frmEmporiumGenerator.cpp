@@ -1,7 +1,7 @@
 #include "generator/frmEmporiumGenerator.h"
 
 #include "files/FileFailure.h"
-#include "generator/GeneratorConfig.h"
+#include "generator/ShopTypes.h"
 #include "regions/AtlasEngine.h"
 #include "shopeditor/ShopLevels.h"
 #include "shopeditor/ShopList.h"

@@ -1,10 +1,8 @@
 #include "shopeditor/ShopList.h"
 
-#include "text/GermanNumber.h"
 #include "text/GermanOrder.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace emporium {
 
@@ -49,45 +47,7 @@ ShopRow* DemandCurrentRow(ShopEditor& shop, const Platform& platform) {
     return row;
 }
 
-// What stands behind the name, without the brackets; a ware without a quantity is there once.
-std::string QuantityOf(const ShopRow& row) {
-    const std::string_view name = WithoutLast(row.ShopItemLine);
-    const std::string_view shown = ShopCell(row, ShopTextColumn);
-    constexpr std::size_t opening = 3, closing = 1;
-    return shown.size() < name.size() + opening + closing
-               ? "1"
-               : std::string(shown.substr(name.size() + opening,
-                                          shown.size() - name.size() - opening - closing));
-}
-
 } // namespace
-
-ShopRow MakeShopRow(const RecordView& record, SharedText bytes) {
-    const std::string_view price = record[PriceField];
-    const std::string_view number = WithoutLast(price);
-    ShopRow row;
-    row.bytes = std::move(bytes);
-    row.ShopItemLine = record[NameField];
-    row.Weight = record[WeightField];
-    row.Unit = price.substr(number.size());
-    row.ShopAvailability = record[AvailabilityField];
-    const auto base = ReadGermanNumber(number);
-    row.ShopBasePrice = RoundToInt16(base.value_or(0));
-    row.hasBasePrice = base && std::abs(*base - row.ShopBasePrice) < 1;
-    row.Price = price;
-    return row;
-}
-
-ShopRow MakeShopRow(const RecordView& record) {
-    std::string text;
-    for (const std::string_view field : record)
-        text += field;
-    const auto bytes = std::make_shared<const std::string>(std::move(text));
-    RecordView copy;
-    for (std::size_t field = 0, begin = 0; field < copy.size(); begin += record[field++].size())
-        copy[field] = std::string_view(*bytes).substr(begin, record[field].size());
-    return MakeShopRow(copy, bytes);
-}
 
 void AddShopRow(ShopEditor& shop, ShopRow row) {
     auto& list = shop.lvLaden;
@@ -203,12 +163,6 @@ void ArrangeShopList(ShopEditor& shop) {
         list.current =
             static_cast<int>(std::find(order.begin(), order.end(), list.current) - order.begin());
     ++list.revision;
-}
-
-std::string_view ShopCell(const ShopRow& row, int column) {
-    if (column == ShopPriceColumn)
-        return row.Price;
-    return row.WithQuantity.empty() ? WithoutLast(row.ShopItemLine) : row.WithQuantity;
 }
 
 } // namespace emporium

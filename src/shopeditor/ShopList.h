@@ -11,13 +11,6 @@
 
 namespace emporium {
 
-/// A ware of an item's record, which lies within the bytes. Its price is shown as it comes; the
-/// base price is 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
-ShopRow MakeShopRow(const RecordView& record, SharedText bytes);
-
-/// The same with bytes of its own, so that a single ware does not keep the whole of its file.
-ShopRow MakeShopRow(const RecordView& record);
-
 /// Adds a ware at its sorted place. The shop must have room, see ShopIsFull.
 void AddShopRow(ShopEditor& shop, ShopRow row);
 
@@ -53,8 +46,5 @@ void SortShopList(ShopEditor& shop, int column);
 
 /// Brings all rows into the order of the list; the current ware stays current.
 void ArrangeShopList(ShopEditor& shop);
-
-/// What the list shows of a ware.
-std::string_view ShopCell(const ShopRow& row, int column);
 
 } // namespace emporium

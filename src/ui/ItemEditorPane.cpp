@@ -130,7 +130,7 @@ void ItemEditorPane::BuildCategories(QWidget* parent) {
     auto* print = BuildButton(
         session_, frame, "cmdListeDrucken", 840, 600, "Gegenstandsliste drucken", "▤", [&] {
             PrintTempDocument(state.print, session_.platform,
-                              [&items](std::string& file) { WriteItemList(items, file); });
+                              [&items](std::string& document) { WriteItemList(items, document); });
         });
     session_.mirror.Bind(categoryNew, items.cmdKategorieNeu);
     session_.mirror.Bind(categoryDelete, items.cmdKategorieDelete);

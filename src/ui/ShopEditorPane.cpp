@@ -1,6 +1,7 @@
 #include "ui/ShopEditorPane.h"
 
 #include "documents/ShopDocument.h"
+#include "documents/ShopExport.h"
 #include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
@@ -111,7 +112,7 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
                          [&] { RemoveShopRow(shop, platform); });
     build("cmdShopDrucken", "Shop ausdrucken", "D", 1920, [&] {
         PrintTempDocument(state.print, platform,
-                          [&shop](std::string& file) { WriteShopPrint(shop, file); });
+                          [&shop](std::string& document) { WriteShopPrint(shop, document); });
     });
     build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
     build("cmdShopGenerator", "Shopgenerator", "W", 2640,

@@ -1,6 +1,7 @@
 #include "documents/ItemListDocument.h"
 #include "documents/PrintHost.h"
 #include "documents/ShopDocument.h"
+#include "documents/ShopExport.h"
 #include "itemeditor/ItemList.h"
 #include "regions/Availability.h"
 #include "shopeditor/ShopList.h"

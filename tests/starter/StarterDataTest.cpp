@@ -1,10 +1,11 @@
 // The data that ships: its form, that its files fit together, and that the world in it holds.
 
-#include "generator/GeneratorConfig.h"
 #include "generator/ShopGeneration.h"
+#include "generator/ShopTypes.h"
 #include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 #include "store/ArsenalImport.h"
+#include "store/CategoryFiles.h"
 #include "store/CategoryList.h"
 #include "support/ProgramFolder.h"
 

@@ -1,4 +1,4 @@
-#include "generator/GeneratorConfig.h"
+#include "generator/ShopTypes.h"
 
 #include "files/FileFailure.h"
 #include "text/Ansi.h"

@@ -1,0 +1,53 @@
+#include "shopeditor/ShopRow.h"
+
+#include "text/Ansi.h"
+#include "text/GermanNumber.h"
+
+#include <cmath>
+
+namespace emporium {
+
+ShopRow MakeShopRow(const RecordView& record, SharedText bytes) {
+    const std::string_view price = record[PriceField];
+    const std::string_view number = HasMark(record, PriceField) ? WithoutLast(price) : price;
+    ShopRow row;
+    row.bytes = std::move(bytes);
+    row.ShopItemLine = record[NameField];
+    row.Weight = record[WeightField];
+    row.Unit = price.substr(number.size());
+    row.ShopAvailability = record[AvailabilityField];
+    const auto base = ReadGermanNumber(number);
+    row.ShopBasePrice = RoundToInt16(base.value_or(0));
+    row.hasBasePrice = base && std::abs(*base - row.ShopBasePrice) < 1;
+    row.Price = price;
+    return row;
+}
+
+ShopRow MakeShopRow(const RecordView& record) {
+    std::string text;
+    for (const std::string_view field : record)
+        text += field;
+    const auto bytes = std::make_shared<const std::string>(std::move(text));
+    RecordView copy;
+    for (std::size_t field = 0, begin = 0; field < copy.size(); begin += record[field++].size())
+        copy[field] = std::string_view(*bytes).substr(begin, record[field].size());
+    return MakeShopRow(copy, bytes);
+}
+
+std::string_view ShopCell(const ShopRow& row, int column) {
+    if (column == ShopPriceColumn)
+        return row.Price;
+    return row.WithQuantity.empty() ? WithoutLast(row.ShopItemLine) : row.WithQuantity;
+}
+
+std::string QuantityOf(const ShopRow& row) {
+    const std::string_view name = WithoutLast(row.ShopItemLine);
+    const std::string_view shown = ShopCell(row, ShopTextColumn);
+    constexpr std::size_t opening = 3, closing = 1;
+    return shown.size() < name.size() + opening + closing
+               ? "1"
+               : std::string(shown.substr(name.size() + opening,
+                                          shown.size() - name.size() - opening - closing));
+}
+
+} // namespace emporium

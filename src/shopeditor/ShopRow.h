@@ -1,0 +1,43 @@
+// One ware of the shop: made from an item's record, and what the list shows of it.
+#pragma once
+
+#include "store/ItemRecords.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace emporium {
+
+/// A ware. A copy of an item's record, which later changes of the item do not reach: the views lie
+/// within bytes that the row keeps alive. Two prices are needed: one that the list shows, by level
+/// or by hand, and the base from which every level starts again.
+struct ShopRow {
+    SharedText bytes;
+    std::string_view ShopItemLine; // the name with the Wert digit behind it
+    std::string_view Weight;       // in Unzen, without a unit
+    std::string_view Unit;         // the letter of the price, empty if the item has no price
+    std::string_view ShopAvailability;
+    std::int16_t ShopBasePrice = 0; // whole, without unit and price level
+    bool hasBasePrice = true;       // false if the item's price is no number of 16 bits
+
+    std::string Price;        // as shown: a number and the unit
+    std::string WithQuantity; // as shown once a quantity was given, else empty: see ShopCell
+};
+
+enum ShopColumn { ShopTextColumn, ShopPriceColumn };
+
+/// A ware of an item's record, which lies within the bytes. Its price is shown as it comes; the
+/// base price is 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
+ShopRow MakeShopRow(const RecordView& record, SharedText bytes);
+
+/// The same with bytes of its own, so that a single ware does not keep the whole of its file.
+ShopRow MakeShopRow(const RecordView& record);
+
+/// What the list shows of a ware.
+std::string_view ShopCell(const ShopRow& row, int column);
+
+/// What stands for the quantity behind the name, without the brackets; "1" for a ware without one.
+std::string QuantityOf(const ShopRow& row);
+
+} // namespace emporium
