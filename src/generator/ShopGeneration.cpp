@@ -8,6 +8,7 @@
 #include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
+#include "store/CategoryFiles.h"
 
 #include <algorithm>
 #include <array>
