@@ -51,7 +51,7 @@ std::error_code CheckDistinct(const FileLayer& files, const std::vector<Step>& e
 }
 
 std::error_code NoteBefore(const FileLayer& files, Step& step) {
-    const FileText text = files.read(step.target);
+    const FileText text = files.read(step.target, LargestFile);
     if (text.IsWhole())
         step.before = FingerprintOf(text.bytes);
     return text.reason;
@@ -144,13 +144,38 @@ WriteResult WriteBound(const FileLayer& files, const fs::path& folder,
     return {true, std::nullopt};
 }
 
-std::optional<FileFailure> WriteInPlace(const FileLayer& files, const fs::path& target,
-                                        std::string_view contents) {
+std::error_code WriteBeside(const FileLayer& files, const fs::path& target,
+                            std::string_view contents, bool replaces) {
+    fs::path temporary;
+    if (const auto error = WriteTemporary(files, target, contents, replaces, temporary))
+        return error;
+    const auto error = files.rename(temporary, target);
+    if (error)
+        files.remove(temporary);
+    else
+        files.flushFolder(target.parent_path());
+    return error;
+}
+
+std::error_code Overwrite(const FileLayer& files, const fs::path& target,
+                          std::string_view contents) {
     FileLayer::Handle handle = 0;
-    std::error_code error = files.overwrite(target, handle);
-    if (!error)
-        error = WriteAndClose(files, handle, contents);
-    return error ? std::optional(FileFailure{target, error}) : std::nullopt;
+    const std::error_code error = files.overwrite(target, handle);
+    return error ? error : WriteAndClose(files, handle, contents);
+}
+
+// What the file held is put back if there is no room for what it should hold.
+std::error_code WriteInPlace(const FileLayer& files, const fs::path& target,
+                             std::string_view contents) {
+    const FileText before = files.read(target, LargestFile);
+    const std::error_code error = Overwrite(files, target, contents);
+    if (error && before.IsWhole())
+        static_cast<void>(Overwrite(files, target, before.bytes));
+    return error;
+}
+
+bool IsRefusal(const std::error_code& error) {
+    return error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
 }
 
 } // namespace
@@ -170,21 +195,13 @@ std::optional<FileFailure> WriteDocument(const FileLayer& files, const fs::path&
     std::error_code error;
     const fs::path target = FollowLinks(files, file, error);
     const FileStatus status = files.status(target);
+    const bool replaces = status.kind == FileStatus::Kind::File;
     if (!error)
         error = CheckWritable(status);
-    fs::path temporary;
-    const bool replaces = status.kind == FileStatus::Kind::File;
     if (!error) {
-        error = WriteTemporary(files, target, contents, replaces, temporary);
-        if (error == std::errc::permission_denied && replaces)
-            return WriteInPlace(files, target, contents);
-    }
-    if (!error) {
-        error = files.rename(temporary, target);
-        if (error)
-            files.remove(temporary);
-        else
-            files.flushFolder(target.parent_path());
+        error = WriteBeside(files, target, contents, replaces);
+        if (replaces && IsRefusal(error)) // by the folder, since the file may be written
+            error = WriteInPlace(files, target, contents);
     }
     return error ? std::optional(FileFailure{file, error}) : std::nullopt;
 }
