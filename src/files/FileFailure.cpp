@@ -19,7 +19,9 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
-    static constexpr std::array<Known, 17> known = {{
+    static constexpr std::string_view unreachable =
+        "Der Datenträger oder das Netzlaufwerk ist nicht erreichbar."_ansi;
+    static constexpr std::array<Known, 28> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert, oder die Datei ist "
                                        "schreibgeschützt oder gerade in Gebrauch."_ansi},
@@ -38,12 +40,25 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
         {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
+        {std::errc::illegal_byte_sequence, "Diesen Namen kann keine Datei tragen."},
         {std::errc::too_many_links, "Zwei Namen führen zu derselben Datei."_ansi},
+        {std::errc::not_enough_memory, "Der Arbeitsspeicher reicht nicht."},
+        {std::errc::text_file_busy, "Ein anderes Programm benutzt die Datei gerade."},
+        {std::errc::function_not_supported, "Der Datenträger bietet nicht, was dafür nötig "
+                                            "ist."_ansi},
+        {std::errc::no_such_device, unreachable},
+        {std::errc::no_such_device_or_address, unreachable},
+        {std::errc::timed_out, unreachable},
+        {std::errc::not_connected, unreachable},
+        {std::errc::host_unreachable, unreachable},
+        {std::errc::network_unreachable, unreachable},
+        {std::errc::network_down, unreachable},
     }};
     for (const Known& entry : known)
         if (reason == entry.code)
             return std::string(entry.text);
-    return "Das System meldet den Fehler " + std::to_string(reason.value()) + ".";
+    return "Beim Lesen oder Schreiben ist ein Fehler aufgetreten, den das System mit der Nummer " +
+           std::to_string(reason.value()) + " meldet.";
 }
 
 std::string FailureText(std::string_view what, const FileFailure& failure) {
