@@ -61,9 +61,9 @@ std::string BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
     Outcome outcome = InTurn(disk, [&]() -> Outcome {
         if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))
             faults.push_back(FaultLine(*failure));
-        // Half a page that stays because it can't be removed does no harm.
-        for (const auto& pages : {disk.folders.HtmlFolder, disk.folders.TempFolder})
-            static_cast<void>(RemoveStrays(disk.files, pages));
+        // Half a page that stays because it can't be removed does no harm. What lies with the
+        // exports is the user's, whatever its name.
+        static_cast<void>(RemoveStrays(disk.files, disk.folders.TempFolder));
         RenameOldCategoryFiles(disk, faults);
         ImportArsenal(disk, faults);
         return {true, {}};
