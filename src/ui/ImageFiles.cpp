@@ -10,11 +10,12 @@ QImage Decode(const QByteArray& bytes) {
     buffer.setData(bytes);
     QImageReader reader(&buffer);
     QImage largest;
-    do {
+    constexpr int most = 16; // a film in an icon's place has thousands
+    for (int i = 0; i < most && (i == 0 || reader.jumpToNextImage()); ++i) {
         const QImage image = reader.read();
         if (image.width() > largest.width())
             largest = image;
-    } while (reader.jumpToNextImage());
+    }
     return largest;
 }
 
