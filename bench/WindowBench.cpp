@@ -162,7 +162,7 @@ void PrintPdf(benchmark::State& state) {
     std::ofstream(page, std::ios::binary) << document;
     for (auto _ : state) {
         ui::HtmlView view(nullptr);
-        view.Navigate(SystemFiles().read(page).bytes);
+        view.Navigate(SystemFiles().read(page, LargestFile).bytes);
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath("shop.pdf"));

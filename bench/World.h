@@ -25,7 +25,7 @@ inline std::string CategoryName(int number) {
 
 /// Reading a file and counting its line ends, which no reader of lines can do without.
 inline std::ptrdiff_t CountLines(const FileLayer& files, const std::filesystem::path& file) {
-    const FileText text = files.read(file);
+    const FileText text = files.read(file, LargestFile);
     return std::count(text.bytes.begin(), text.bytes.end(), '\n');
 }
 

@@ -56,7 +56,7 @@ bool IsNormalFile(const FileLayer& files, const fs::path& file) {
 
 std::string ReadIniValue(const FileLayer& files, const fs::path& file, std::string_view section,
                          std::string_view key) {
-    return IniValue(files.read(file).bytes, section, key);
+    return IniValue(files.read(file, LargestList).bytes, section, key);
 }
 
 bool FileExists(const FileLayer& files, const fs::path& path) {

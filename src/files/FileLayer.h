@@ -49,8 +49,8 @@ struct FileLayer {
     using Handle = std::intptr_t;
 
     /// The whole file, links followed. What is no file in the end, a folder or a pipe, is
-    /// unreadable, and so is a file above 1 GiB.
-    std::function<FileText(const Path& file)> read;
+    /// unreadable, and so is a file of more bytes than `largest`, without being read.
+    std::function<FileText(const Path& file, std::size_t largest)> read;
 
     /// What stands at the path. A name that no file can bear is absent.
     std::function<FileStatus(const Path& path)> status;
@@ -110,8 +110,10 @@ FileLayer SystemFiles();
 /// The folder of the running program, on Linux with links resolved.
 std::filesystem::path RunningProgramFolder();
 
-/// Far above every file of the program; what is larger would take the memory that others need.
-inline constexpr std::size_t LargestFile = std::size_t{1} << 30U;
+/// Far above every category and page, and far above every list and picture. What is larger would
+/// take the time and the memory that others need.
+inline constexpr std::size_t LargestFile = std::size_t{1} << 28U;
+inline constexpr std::size_t LargestList = std::size_t{1} << 24U;
 
 /// How long `lock` waits, and how long it sleeps between two tries.
 inline constexpr int LockMilliseconds = 3000;

@@ -33,7 +33,7 @@ std::error_code FindStep(const FileLayer& files, const JournalEntry& entry, Foun
         found.progress = Progress::Foreign; // a link, say, that must not be written through
         return {};
     }
-    const FileText target = files.read(found.target);
+    const FileText target = files.read(found.target, LargestFile);
     if (target.reason)
         return target.reason;
     if (Holds(target, removes ? std::nullopt : std::optional(entry.after)))
@@ -42,7 +42,7 @@ std::error_code FindStep(const FileLayer& files, const JournalEntry& entry, Foun
         found.progress = Progress::Foreign;
     if (removes || found.progress != Progress::Pending)
         return {};
-    const FileText temporary = files.read(found.temporary);
+    const FileText temporary = files.read(found.temporary, LargestFile);
     if (!temporary.reason && !Holds(temporary, entry.after))
         found.progress = Progress::Lost;
     return temporary.reason;
@@ -117,7 +117,7 @@ Recovery FinishJournal(const FileLayer& files, const fs::path& folder) {
         return {};
     if (status.kind != FileStatus::Kind::File && !status.reason)
         return SetAside(files, journalFile, "Der angefangene Schreibvorgang ist keine Datei."_ansi);
-    const FileText text = files.read(journalFile);
+    const FileText text = files.read(journalFile, LargestList);
     if (!text.IsWhole())
         return {FileFailure{journalFile, text.reason}, {}};
     const auto journal = ReadJournal(text.bytes);

@@ -31,7 +31,7 @@ FileText Unreadable(std::error_code reason) {
 }
 
 // The text may be kept for long: it takes no more memory than the file has bytes.
-FileText ReadOpened(int descriptor) {
+FileText ReadOpened(int descriptor, std::size_t largest) {
     constexpr std::size_t chunk = 65536; // for what has no size, or has grown meanwhile
     struct stat status {};
     ::fstat(descriptor, &status);
@@ -39,7 +39,7 @@ FileText ReadOpened(int descriptor) {
         return Unreadable(std::make_error_code(std::errc::is_a_directory));
     if (!S_ISREG(status.st_mode))
         return Unreadable(std::make_error_code(std::errc::operation_not_supported));
-    if (static_cast<std::size_t>(status.st_size) > LargestFile)
+    if (static_cast<std::size_t>(status.st_size) > largest)
         return Unreadable(std::make_error_code(std::errc::file_too_large));
     FileText text{FileText::State::Whole, {}, {}};
     text.bytes.resize(static_cast<std::size_t>(status.st_size) + 1); // one more shows the end
@@ -52,7 +52,7 @@ FileText ReadOpened(int descriptor) {
             return text;
         }
         size += got > 0 ? static_cast<std::size_t>(got) : 0;
-        if (size > LargestFile)
+        if (size > largest)
             return Unreadable(std::make_error_code(std::errc::file_too_large));
         if (size == text.bytes.size())
             text.bytes.resize(size + chunk);
@@ -63,12 +63,12 @@ bool CannotBeThere(int error) {
     return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
 }
 
-FileText Read(const Path& file) {
+FileText Read(const Path& file, std::size_t largest) {
     // Without O_NONBLOCK a pipe in the file's place would hold the program up for ever.
     const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0)
         return CannotBeThere(errno) ? FileText() : Unreadable(LastError());
-    FileText text = ReadOpened(descriptor);
+    FileText text = ReadOpened(descriptor, largest);
     ::close(descriptor);
     return text;
 }

@@ -26,22 +26,25 @@ HANDLE ToHandle(Handle handle) {
     return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
 }
 
-FileText ReadOpened(HANDLE handle) {
+FileText ReadOpened(HANDLE handle, std::size_t largest) {
     FileText text{FileText::State::Whole, {}, {}};
+    LARGE_INTEGER size{};
+    if (GetFileSizeEx(handle, &size) && static_cast<std::uint64_t>(size.QuadPart) > largest)
+        return Unreadable(std::make_error_code(std::errc::file_too_large));
     char buffer[65536];
     DWORD got = 0;
     do {
         if (!ReadFile(handle, buffer, sizeof buffer, &got, nullptr))
             return Unreadable(LastError());
         text.bytes.append(buffer, got);
-        if (text.bytes.size() > LargestFile)
+        if (text.bytes.size() > largest)
             return Unreadable(std::make_error_code(std::errc::file_too_large));
     } while (got > 0);
     text.bytes.shrink_to_fit(); // it may be kept for long
     return text;
 }
 
-FileText Read(const Path& file) {
+FileText Read(const Path& file, std::size_t largest) {
     const DWORD attributes = AttributesOf(file);
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
         return Unreadable(std::make_error_code(std::errc::is_a_directory));
@@ -53,7 +56,7 @@ FileText Read(const Path& file) {
     if (error)
         return Unreadable(error);
     const bool isFile = GetFileType(handle) == FILE_TYPE_DISK;
-    FileText text = isFile ? ReadOpened(handle)
+    FileText text = isFile ? ReadOpened(handle, largest)
                            : Unreadable(std::make_error_code(std::errc::operation_not_supported));
     CloseHandle(handle);
     return text;

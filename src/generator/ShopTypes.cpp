@@ -11,7 +11,7 @@ namespace {
 
 FileText ReadConfigFile(const Disk& disk, const char* name, std::vector<std::string>& faults) {
     const auto file = disk.folders.EmporiumFolder() / name;
-    FileText text = disk.files.read(file);
+    FileText text = disk.files.read(file, LargestList);
     if (!text.IsWhole())
         faults.push_back(FaultLine({file, ReasonOf(text)}));
     return text;

@@ -46,7 +46,7 @@ Outcome Create(ItemEditor& editor, const Disk& disk, const std::string& name, bo
 // Why the category's file stays, empty if it can go.
 std::string FileRefusal(const Disk& disk, const std::string& name) {
     const auto path = CategoryPath(disk.folders, name);
-    const FileText present = disk.files.read(path);
+    const FileText present = disk.files.read(path, LargestFile);
     if (present.state == FileText::State::Unreadable)
         return FailureText(NotDeleted, {path, present.reason});
     if (!present.bytes.empty())

@@ -79,7 +79,7 @@ Outcome CompareAndWrite(ItemEditor& editor, const Disk& disk, const RowChange& c
                         const WriteWording& words, const MoreChanges& more,
                         const MaybeText& accepted, MaybeText& foreign) {
     const ViewFile& file = editor.FileAt(change.home);
-    FileText present = disk.files.read(CategoryPath(disk.folders, file.name));
+    FileText present = disk.files.read(CategoryPath(disk.folders, file.name), LargestFile);
     if (auto refusal = FileRefusal(disk, file, present, words); !refusal.empty())
         return {false, std::move(refusal)};
     if (present.bytes != *file.bytes && present.bytes != accepted) {

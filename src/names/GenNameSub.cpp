@@ -3,8 +3,6 @@
 #include "text/Ansi.h"
 #include "text/LineReader.h"
 
-#include <vector>
-
 namespace emporium {
 
 namespace {
@@ -50,18 +48,20 @@ NameLists::NameLists(const Disk& disk, const Die& die) : disk_(disk), die_(die) 
 
 std::string NameLists::DrawName(std::string_view list) {
     const auto file = disk_.folders.DataFolder / "Borough" / ToPath(list);
-    const FileText text = disk_.files.read(file);
-    std::vector<std::string_view> names;
-    LineReader lines(text.bytes);
-    for (std::string_view line; lines.Next(line);)
-        names.push_back(line);
-    if (names.empty()) {
+    const FileText text = disk_.files.read(file, LargestList);
+    std::string_view name;
+    std::int32_t count = 0;
+    for (LineReader lines(text.bytes); lines.Next(name);)
+        ++count;
+    if (count == 0) {
         if (!failure_)
             failure_ = FileFailure{file, ReasonOf(text)};
         return {};
     }
-    const std::int32_t k = Throw(static_cast<std::int32_t>(names.size()));
-    return std::string(names[static_cast<std::size_t>(k - 1)]);
+    LineReader lines(text.bytes);
+    for (std::int32_t k = Throw(count); k > 0; --k)
+        lines.Next(name);
+    return std::string(name);
 }
 
 std::string GenName(NameLists& lists, std::string_view race, std::string& sex) {

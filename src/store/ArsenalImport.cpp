@@ -103,7 +103,7 @@ void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& f
                     std::vector<std::string>& faults) {
     const auto sourceFile =
         disk.folders.DataFolder / "Arsenal" / CategoryPath(disk.folders, name).filename();
-    const FileText source = disk.files.read(sourceFile);
+    const FileText source = disk.files.read(sourceFile, LargestFile);
     if (source.state == FileText::State::Unreadable)
         faults.push_back("Arsenal, " + FaultLine({sourceFile, source.reason}));
     if (!source.IsWhole())
@@ -132,7 +132,7 @@ void RenameOldFile(const Disk& disk, std::string_view name, std::vector<std::str
     const auto older = CategoryPath(disk.folders, std::string("Emporium").append(name));
     if (!FileExists(disk.files, older))
         return;
-    const FileText text = disk.files.read(older);
+    const FileText text = disk.files.read(older, LargestFile);
     if (text.state == FileText::State::Absent)
         return;
     if (!text.IsWhole()) {

@@ -49,7 +49,7 @@ std::filesystem::path CategoryListPath(const Folders& folders) {
 }
 
 CategoryList ReadCategoryNames(const Disk& disk) {
-    FileText text = disk.files.read(CategoryListPath(disk.folders));
+    FileText text = disk.files.read(CategoryListPath(disk.folders), LargestList);
     CategoryList list{text.state, ReasonOf(text), std::move(text.bytes), {}};
     list.names = NamesIn(list.bytes, MaxRows);
     return list;

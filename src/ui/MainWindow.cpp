@@ -70,7 +70,7 @@ void MainWindow::ConnectPlatform(const std::filesystem::path& programFolder) {
         session_.mirror.Update();
     };
     platform.Browser.Navigate = [this](const auto& file) {
-        const FileText page = session_.platform.disk.files.read(file);
+        const FileText page = session_.platform.disk.files.read(file, LargestFile);
         if (page.IsWhole())
             browser_->Navigate(page.bytes);
         return page.IsWhole();

@@ -38,7 +38,8 @@ constexpr Shown LargePictures[] = {
 };
 
 QByteArray BytesOf(const Disk& disk, const char* file) {
-    return QByteArray::fromStdString(disk.files.read(disk.folders.GfxFolder / file).bytes);
+    return QByteArray::fromStdString(
+        disk.files.read(disk.folders.GfxFolder / file, LargestList).bytes);
 }
 
 } // namespace

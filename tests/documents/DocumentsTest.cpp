@@ -6,6 +6,7 @@
 #include "regions/Availability.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
+#include "support/MemoryDisk.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
@@ -133,7 +134,7 @@ TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
             "Der Shop wurde erfolgreich erstellt, wollt ihr euch diesen nun ansehen ?.", show);
         ExportShop(shop, script.platform);
         EXPECT_EQ(viewed, show ? 1 : 0);
-        EXPECT_EQ(SystemFiles().read(target).bytes, document);
+        EXPECT_EQ(SystemFiles().read(target, LargestFile).bytes, document);
     }
     target = program.root / "fehlt" / "Laden.html";
     script.ExpectMessage("Der Laden konnte nicht gespeichert werden.\n\nDatei: ");
@@ -159,7 +160,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     script.platform.Browser.SetVisible = [&](bool visible) { log += visible ? "show " : "hide "; };
     script.platform.Browser.Navigate = [&](const std::filesystem::path& file) {
         EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
-        const FileText page = SystemFiles().read(file);
+        const FileText page = script.platform.disk.files.read(file, LargestFile);
         log += "load[" + page.bytes + "] ";
         return readable;
     };
@@ -184,9 +185,14 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
     EXPECT_EQ((readable = true, script.platform.PreviewTimeout = std::chrono::milliseconds(20),
                rounds = 0, print("neuer Ordner")),
               "show load[neuer Ordner] print hide ");
-    std::filesystem::remove_all(program.root);
-    script.ExpectMessage("Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ");
-    EXPECT_EQ(print("neu"), "show hide ");
+    MemoryDisk disk;
+    script.platform.disk = {disk.Files(), disk.folders};
+    for (const int call : {1, 2, 3, 4, 5}) {
+        disk.failing = {disk.calls + call};
+        script.ExpectMessage("Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ");
+        EXPECT_EQ(print("neu"), "show hide ") << call;
+        EXPECT_TRUE(disk.Files().entries(disk.folders.TempFolder).empty()) << "half a page";
+    }
 }
 
 } // namespace

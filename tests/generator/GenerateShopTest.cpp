@@ -101,9 +101,9 @@ TEST_F(GenerateShops, WhatIsWrongWithAFileIsTold) {
     program.Write("Emporium/Waffen.dat", Item("Axt1"));
     for (const auto& [name, wares] : {std::pair<std::string, std::string>{"Kleidung.dat", "Axt "},
                                       {"ShopgeneratorConfig.dat", ""}}) {
-        script.platform.disk.files.read = [&name](const std::filesystem::path& file) {
+        script.platform.disk.files.read = [&name](const auto& file, std::size_t largest) {
             if (file.filename() != name)
-                return SystemFiles().read(file);
+                return SystemFiles().read(file, largest);
             return FileText{
                 FileText::State::Unreadable, {}, std::make_error_code(std::errc::io_error)};
         };

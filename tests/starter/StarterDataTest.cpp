@@ -72,7 +72,8 @@ double Expected(const std::vector<ItemRecord>& wares, const ShopWishes& wishes) 
 
 TEST(StarterData, IsWrittenInTheCodePageAndTheFirstStartImportsNothing) {
     for (const auto& entry : fs::recursive_directory_iterator(disk.folders.DataFolder)) {
-        const std::string text = entry.is_directory() ? "\r\n" : disk.files.read(entry).bytes;
+        const std::string text =
+            entry.is_directory() ? "\r\n" : disk.files.read(entry, LargestFile).bytes;
         const auto belongs = [](char c) {
             return (c >= ' ' && c <= '~') || "\r\nÄÖÜäöüß–„“"_ansi.find(c) != std::string::npos;
         };
@@ -143,7 +144,7 @@ TEST(StarterData, EveryTypeHasItsOwnWaresAndAsManyAsOneReads) {
         sold.merge(categories);
     }
     EXPECT_EQ(sold.size(), ReadCategoryNames(disk).names.size());
-    const std::string page = disk.files.read(disk.folders.HilfeFolder / "Emporium.htm").bytes;
+    const auto page = disk.files.read(disk.folders.HilfeFolder / "Emporium.htm", LargestFile).bytes;
     for (const auto& [count, what] :
          {std::pair(sold.size(), " Kategorien mit zusammen "),
           std::pair(Worths().size(), " Gegenst"), std::pair(types.size(), " Arten sind")})

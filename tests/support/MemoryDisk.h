@@ -80,7 +80,7 @@ public:
     FileLayer Files() {
         using Handle = FileLayer::Handle;
         FileLayer files;
-        files.read = [this](const Path& file) { return ReadFile(file); };
+        files.read = [this](const Path& file, std::size_t) { return ReadFile(file); };
         files.status = [this](const Path& path) { return StatusOf(path); };
         files.linkTarget = [this](const Path& path) {
             const Node* node = Find(path);
