@@ -19,9 +19,11 @@ std::string ReasonText(const std::error_code& reason) {
         std::errc code;
         std::string_view text;
     };
+    static constexpr std::string_view noFile = "Es ist keine gewöhnliche Datei, sondern eine "
+                                               "Verknüpfung, eine Pipe oder ein Gerät."_ansi;
     static constexpr std::string_view unreachable =
         "Der Datenträger oder das Netzlaufwerk ist nicht erreichbar."_ansi;
-    static constexpr std::array<Known, 28> known = {{
+    static constexpr std::array<Known, 29> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
         {std::errc::permission_denied, "Der Zugriff wurde verweigert, oder die Datei ist "
                                        "schreibgeschützt oder gerade in Gebrauch."_ansi},
@@ -34,8 +36,8 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::no_such_file_or_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::not_a_directory, "Die Datei oder ihr Ordner fehlt."},
         {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},
-        {std::errc::operation_not_supported, "Es ist keine gewöhnliche Datei, sondern eine "
-                                             "Verknüpfung, eine Pipe oder ein Gerät."_ansi},
+        {std::errc::operation_not_supported, noFile},
+        {std::errc::no_such_device_or_address, noFile}, // a socket
         {std::errc::too_many_symbolic_link_levels, "Die Verknüpfung führt im Kreis."_ansi},
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
@@ -43,11 +45,12 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::illegal_byte_sequence, "Diesen Namen kann keine Datei tragen."},
         {std::errc::too_many_links, "Zwei Namen führen zu derselben Datei."_ansi},
         {std::errc::not_enough_memory, "Der Arbeitsspeicher reicht nicht."},
+        {std::errc::resource_unavailable_try_again,
+         "Ein anderes Programm benutzt die Datei gerade."},
         {std::errc::text_file_busy, "Ein anderes Programm benutzt die Datei gerade."},
         {std::errc::function_not_supported, "Der Datenträger bietet nicht, was dafür nötig "
                                             "ist."_ansi},
         {std::errc::no_such_device, unreachable},
-        {std::errc::no_such_device_or_address, unreachable},
         {std::errc::timed_out, unreachable},
         {std::errc::not_connected, unreachable},
         {std::errc::host_unreachable, unreachable},

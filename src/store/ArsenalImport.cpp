@@ -103,7 +103,7 @@ void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& f
                     std::vector<std::string>& faults) {
     const auto sourceFile =
         disk.folders.DataFolder / "Arsenal" / CategoryPath(disk.folders, name).filename();
-    const FileText source = disk.files.read(sourceFile, LargestFile);
+    const FileText source = disk.files.read(sourceFile, LargestList);
     if (source.state == FileText::State::Unreadable)
         faults.push_back("Arsenal, " + FaultLine({sourceFile, source.reason}));
     if (!source.IsWhole())

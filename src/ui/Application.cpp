@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPalette>
+#include <QSettings>
 #include <QStyle>
 #include <QTranslator>
 
@@ -64,6 +65,8 @@ void SetUpApplication(QApplication& application) {
         QApplication::setStyle(new WindowStyle);
         // A desktop's own file dialog would speak the desktop's language.
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        // Qt's own would leave its preferences in the user's home.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     }
     QApplication::setPalette(LightPalette());
     QApplication::setFont(WindowFont());
