@@ -118,7 +118,7 @@ Recovery FinishJournal(const FileLayer& files, const fs::path& folder) {
     if (status.kind != FileStatus::Kind::File && !status.reason)
         return SetAside(files, journalFile, "Der angefangene Schreibvorgang ist keine Datei."_ansi);
     const FileText text = files.read(journalFile, LargestList);
-    if (!text.IsWhole())
+    if (text.reason && text.reason != std::errc::file_too_large)
         return {FileFailure{journalFile, text.reason}, {}};
     const auto journal = ReadJournal(text.bytes);
     if (!journal)

@@ -69,7 +69,7 @@ private:
         const auto file = CategoryPath(disk_.folders, name);
         if (!IsPlainName(name) || !FileExists(disk_.files, file))
             return {};
-        FileText category = disk_.files.read(file);
+        FileText category = disk_.files.read(file, LargestFile);
         if (category.state == FileText::State::Unreadable)
             faults_.push_back(FaultLine({file, category.reason}));
         return std::move(category.bytes);
