@@ -12,39 +12,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// "*" stands for any text, "?" for one character. Compared as code units, which is exact for all
-// but a "?" against a character of several bytes; that one is stepped over as a whole.
+// A character of UTF-8 and what follows it.
+std::u8string_view WithoutFirst(std::u8string_view text) {
+    do
+        text.remove_prefix(1);
+    while (!text.empty() && (text.front() & 0xC0U) == 0x80U);
+    return text;
+}
+
+// "*" stands for any text, "?" for one character. The patterns are short.
 bool MatchesWildcards(std::u8string_view pattern, std::u8string_view name) {
-    std::size_t p = 0;
-    std::size_t n = 0;
-    std::size_t star = pattern.npos;
-    std::size_t starName = 0;
-    const auto next = [&name](std::size_t i) {
-        do {
-            ++i;
-        } while (i < name.size() && (name[i] & 0xC0U) == 0x80U);
-        return i;
-    };
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == u8'*') {
-            star = p++;
-            starName = n;
-        } else if (p < pattern.size() && pattern[p] == u8'?') {
-            ++p;
-            n = next(n);
-        } else if (p < pattern.size() && pattern[p] == name[n]) {
-            ++p;
-            ++n;
-        } else if (star != pattern.npos) {
-            p = star + 1;
-            n = starName = next(starName);
-        } else {
-            return false;
-        }
-    }
-    while (p < pattern.size() && pattern[p] == u8'*')
-        ++p;
-    return p == pattern.size();
+    if (pattern.empty())
+        return name.empty();
+    const auto rest = pattern.substr(1);
+    if (pattern.front() == u8'*')
+        return MatchesWildcards(rest, name) ||
+               (!name.empty() && MatchesWildcards(pattern, WithoutFirst(name)));
+    if (pattern.front() == u8'?')
+        return !name.empty() && MatchesWildcards(rest, WithoutFirst(name));
+    return name.starts_with(pattern.front()) && MatchesWildcards(rest, name.substr(1));
 }
 
 bool IsNormalFile(const FileLayer& files, const fs::path& file) {

@@ -17,13 +17,15 @@ namespace fs = std::filesystem;
 using Path = FileLayer::Path;
 using Handle = FileLayer::Handle;
 
-// A quota that is used up is a full disk to its user.
-std::error_code LastError() {
+// What a call of the system came to. A quota that is used up is a full disk to its user.
+std::error_code Outcome(ssize_t result) {
+    if (result >= 0)
+        return {};
     return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
 }
 
-std::error_code Outcome(int result) {
-    return result == 0 ? std::error_code() : LastError();
+std::error_code Unless(std::errc harmless, std::error_code error) {
+    return error == harmless ? std::error_code() : error;
 }
 
 FileText Unreadable(std::error_code reason) {
@@ -41,33 +43,38 @@ FileText ReadOpened(int descriptor, std::size_t largest) {
         return Unreadable(std::make_error_code(std::errc::operation_not_supported));
     if (static_cast<std::size_t>(status.st_size) > largest)
         return Unreadable(std::make_error_code(std::errc::file_too_large));
-    FileText text{FileText::State::Whole, {}, {}};
-    text.bytes.resize(static_cast<std::size_t>(status.st_size) + 1); // one more shows the end
-    for (std::size_t size = 0;;) {
-        const ssize_t got = ::read(descriptor, text.bytes.data() + size, text.bytes.size() - size);
-        if (got < 0 && errno != EINTR)
-            return Unreadable(LastError());
-        if (got == 0) {
-            text.bytes.resize(size);
-            return text;
-        }
-        size += got > 0 ? static_cast<std::size_t>(got) : 0;
+    std::string bytes(static_cast<std::size_t>(status.st_size) + 1, '\0'); // one more shows the end
+    std::size_t size = 0;
+    ssize_t got = 0;
+    while ((got = ::read(descriptor, bytes.data() + size, bytes.size() - size)) > 0) {
+        size += static_cast<std::size_t>(got);
         if (size > largest)
             return Unreadable(std::make_error_code(std::errc::file_too_large));
-        if (size == text.bytes.size())
-            text.bytes.resize(size + chunk);
+        if (size == bytes.size())
+            bytes.resize(size + chunk);
     }
+    if (const auto error = Outcome(got))
+        return Unreadable(error);
+    bytes.resize(size);
+    return {FileText::State::Whole, std::move(bytes), {}};
 }
 
-bool CannotBeThere(int error) {
-    return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
+// No reason for what is absent: a path at which nothing can stand.
+std::error_code WhyUnknown(std::error_code error) {
+    for (const auto absent :
+         {std::errc::no_such_file_or_directory, std::errc::not_a_directory,
+          std::errc::filename_too_long, std::errc::too_many_symbolic_link_levels})
+        error = Unless(absent, error);
+    return error;
 }
 
 FileText Read(const Path& file, std::size_t largest) {
     // Without O_NONBLOCK a pipe in the file's place would hold the program up for ever.
     const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
-        return CannotBeThere(errno) ? FileText() : Unreadable(LastError());
+    if (const auto error = Outcome(descriptor)) {
+        const auto reason = WhyUnknown(error);
+        return reason ? Unreadable(reason) : FileText();
+    }
     FileText text = ReadOpened(descriptor, largest);
     ::close(descriptor);
     return text;
@@ -86,9 +93,8 @@ FileStatus StatusOf(const Path& path) {
     constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
     FileStatus result;
     struct stat status {};
-    if (::lstat(path.c_str(), &status) != 0) {
-        if (!CannotBeThere(errno))
-            result.reason = LastError();
+    if (const auto error = Outcome(::lstat(path.c_str(), &status))) {
+        result.reason = WhyUnknown(error);
         return result;
     }
     result.kind = KindOf(status.st_mode);
@@ -106,8 +112,7 @@ Path LinkTarget(const Path& link) {
 std::vector<Path> EntriesOf(const Path& folder) {
     std::vector<Path> entries;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error))
+    for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error))
         entries.push_back(entry->path());
     return entries;
 }
@@ -119,11 +124,8 @@ bool SameFile(const Path& one, const Path& other) {
 
 std::error_code OpenToWrite(const Path& file, int flags, Handle& handle) {
     constexpr mode_t mode = 0666;
-    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, mode);
-    if (descriptor < 0)
-        return LastError();
-    handle = descriptor;
-    return {};
+    handle = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, mode);
+    return Outcome(handle);
 }
 
 std::error_code CreateNew(const Path& file, Handle& handle) {
@@ -135,14 +137,9 @@ std::error_code Overwrite(const Path& file, Handle& handle) {
 }
 
 std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
-    ssize_t count = 0;
-    do {
-        count = ::write(static_cast<int>(handle), bytes.data(), bytes.size());
-    } while (count < 0 && errno == EINTR);
-    if (count < 0)
-        return LastError();
+    const ssize_t count = ::write(static_cast<int>(handle), bytes.data(), bytes.size());
     written = static_cast<std::size_t>(count);
-    return {};
+    return Outcome(count);
 }
 
 std::error_code Flush(Handle handle) {
@@ -155,8 +152,8 @@ std::error_code Close(Handle handle) {
 
 std::error_code CopyMode(const Path& from, const Path& to) {
     struct stat status {};
-    if (::stat(from.c_str(), &status) != 0)
-        return LastError();
+    if (const auto error = Outcome(::stat(from.c_str(), &status)))
+        return error;
     return Outcome(::chmod(to.c_str(), status.st_mode & 07777U));
 }
 
@@ -165,7 +162,7 @@ std::error_code Rename(const Path& from, const Path& to) {
 }
 
 std::error_code Remove(const Path& file) {
-    return ::unlink(file.c_str()) == 0 || errno == ENOENT ? std::error_code() : LastError();
+    return Unless(std::errc::no_such_file_or_directory, Outcome(::unlink(file.c_str())));
 }
 
 int OpenFolder(const Path& folder) {
@@ -175,16 +172,16 @@ int OpenFolder(const Path& folder) {
 // Some network disks know no flushing of folders: what they promise has to do.
 std::error_code FlushFolder(const Path& folder) {
     const int descriptor = OpenFolder(folder);
-    if (descriptor < 0)
-        return LastError();
+    if (const auto error = Outcome(descriptor))
+        return error;
     const std::error_code error = Flush(descriptor);
     ::close(descriptor);
-    return error == std::errc::invalid_argument ? std::error_code() : error;
+    return Unless(std::errc::invalid_argument, error);
 }
 
 std::error_code CreateFolder(const Path& folder) {
     constexpr mode_t mode = 0777;
-    return ::mkdir(folder.c_str(), mode) == 0 || errno == EEXIST ? std::error_code() : LastError();
+    return Unless(std::errc::file_exists, Outcome(::mkdir(folder.c_str(), mode)));
 }
 
 std::shared_ptr<void> Keep(int descriptor) {
@@ -196,7 +193,7 @@ std::shared_ptr<void> Keep(int descriptor) {
 // whatever ends the program. Who marks first and looks then is seen by everyone who comes later.
 FolderClaim Claim(const Path& folder) {
     const int descriptor = OpenFolder(folder);
-    if (descriptor < 0)
+    if (Outcome(descriptor))
         return {};
     struct flock mark {};
     mark.l_type = F_RDLCK;
@@ -209,18 +206,15 @@ FolderClaim Claim(const Path& folder) {
 
 std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
     const int descriptor = OpenFolder(folder);
-    if (descriptor < 0)
-        return LastError();
+    if (const auto error = Outcome(descriptor))
+        return error;
     lock = Keep(descriptor);
-    for (int waited = 0; ::flock(descriptor, LOCK_EX | LOCK_NB) != 0;) {
-        if (errno != EWOULDBLOCK && errno != EINTR)
-            return {};
-        if (waited >= LockMilliseconds)
-            return std::make_error_code(std::errc::device_or_resource_busy);
+    for (int waited = 0; waited < LockMilliseconds; waited += LockPauseMilliseconds) {
+        if (Outcome(::flock(descriptor, LOCK_EX | LOCK_NB)) != std::errc::operation_would_block)
+            return {}; // locked, or a disk that knows no locks
         std::this_thread::sleep_for(std::chrono::milliseconds(LockPauseMilliseconds));
-        waited += LockPauseMilliseconds;
     }
-    return {};
+    return std::make_error_code(std::errc::device_or_resource_busy);
 }
 
 } // namespace

@@ -90,11 +90,13 @@ bool TryTrouble(const Changes& changes, Trouble trouble, int n, int second) {
     } catch (const KilledHere&) {
     }
     const bool reached = disk.calls >= n;
+    EXPECT_TRUE(!dropped || second > 0 || trouble != Trouble::Fails || here.Look() == before);
     if (trouble > Trouble::Killed)
         disk.CutPower(trouble != Trouble::NamesLost, trouble != Trouble::ContentsLost);
     const State finished = here.Finish();
     EXPECT_TRUE(finished == wanted || finished == before) << testing::PrintToString(finished);
-    const bool lasts = trouble < Trouble::ContentsLost || !reached;
+    const bool lasts = trouble < Trouble::ContentsLost;
+    EXPECT_TRUE(reached || finished == wanted);
     EXPECT_TRUE(!lasts || !stands || finished == wanted);
     EXPECT_TRUE(!lasts || !dropped || finished == before);
     EXPECT_EQ(here.Finish(), finished);

@@ -23,30 +23,85 @@ TEST(SystemFiles, TellsWhatStandsThereAndReadsNothingButFiles) {
     program.Write("Emporium/a.dat", "a");
     fs::create_symlink("a.dat", folder / "link.dat");
     fs::create_symlink("ring.dat", folder / "ring.dat");
+    fs::create_hard_link(folder / "a.dat", folder / "zwei.dat");
     ::mkfifo((folder / "pipe.dat").c_str(), 0600);
     using Kind = FileStatus::Kind;
-    const auto kind = [&](const std::string& name) { return files.status(folder / name).kind; };
-    EXPECT_EQ(kind("a.dat"), Kind::File);
-    EXPECT_EQ(kind("link.dat"), Kind::Link);
-    EXPECT_EQ(kind("pipe.dat"), Kind::Other);
-    EXPECT_EQ(kind("."), Kind::Folder);
-    EXPECT_EQ(kind(std::string(300, 'x')), Kind::Absent);
-    EXPECT_EQ(files.read(folder / "link.dat", 1).bytes, "a");
-    for (const char* name : {"pipe.dat", ".", "a.dat"})
-        EXPECT_EQ(files.read(folder / name, 0).state, FileText::State::Unreadable) << name;
-    for (const std::string& name : {std::string("ring.dat"), std::string(300, 'x')})
-        EXPECT_EQ(files.read(folder / name, 0).state, FileText::State::Absent) << name;
+    const std::pair<std::string, Kind> kinds[] = {
+        {"a.dat", Kind::File},     {"link.dat", Kind::Link},  {".", Kind::Folder},
+        {"pipe.dat", Kind::Other}, {"a.dat/x", Kind::Absent}, {std::string(300, 'x'), Kind::Absent},
+        {"fehlt", Kind::Absent}};
+    for (const auto& [name, kind] : kinds) {
+        const FileStatus status = files.status(folder / name);
+        EXPECT_TRUE(status.kind == kind && !status.reason) << name;
+        const FileText text = files.read(folder / name, 1);
+        EXPECT_EQ(text.bytes, kind == Kind::File || kind == Kind::Link ? "a" : "") << name;
+        EXPECT_EQ(text.state == FileText::State::Absent, kind == Kind::Absent) << name;
+        EXPECT_EQ(!text.reason, kind != Kind::Folder && kind != Kind::Other) << name;
+    }
+    EXPECT_EQ(files.read(folder / "ring.dat", 1).state, FileText::State::Absent);
+    EXPECT_EQ(files.read("/proc/self/mem", LargestFile).reason, std::errc::io_error);
+    const char* const sizeless = "/proc/filesystems";
+    EXPECT_TRUE(files.read(sizeless, LargestFile).bytes.ends_with("\n"));
+    for (const fs::path& file : {fs::path(sizeless), folder / "a.dat"})
+        EXPECT_EQ(files.read(file, 0).reason, std::errc::file_too_large);
     EXPECT_TRUE(FileExists(files, folder / "l*.dat"));
     EXPECT_FALSE(FileExists(files, folder / "ring.dat"));
     fs::permissions(folder / "a.dat", fs::perms::owner_read);
     EXPECT_FALSE(files.status(folder / "a.dat").writable);
     EXPECT_FALSE(WriteFiles(files, folder, {{folder / "a.dat", "neu"}}).stands);
     fs::permissions(folder / "a.dat", fs::perms::owner_all);
+    EXPECT_FALSE(
+        WriteFiles(files, folder, {{folder / "a.dat", "1"}, {folder / "zwei.dat", "2"}}).stands);
     EXPECT_TRUE(
         WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}}).stands);
     EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
     EXPECT_EQ(fs::status(folder / "a.dat").permissions(), fs::perms::owner_all);
-    EXPECT_EQ(files.entries(folder).size(), 5U);
+    EXPECT_EQ(files.entries(folder).size(), 6U);
+    fs::permissions(folder / "a.dat", fs::perms::none);
+    const bool mayAll = ::seteuid(65534) == 0; // then as one who may not
+    EXPECT_EQ(files.read(folder / "a.dat", 1).reason, std::errc::permission_denied);
+    EXPECT_FALSE(files.status("/etc/passwd").writable);
+    EXPECT_TRUE(!mayAll || ::seteuid(0) == 0);
+    EXPECT_TRUE(fs::exists(RunningProgramFolder() / "core_tests"));
+}
+
+TEST(SystemFiles, TellsWhatACallCameTo) {
+    const ProgramFolder program;
+    const FileLayer files = SystemFiles();
+    const fs::path folder = program.folders.EmporiumFolder();
+    const fs::path file = folder / "a.dat";
+    const fs::path nowhere = folder / "fehlt" / "a.dat";
+    program.Write("Emporium/a.dat", "lang");
+    FileLayer::Handle handle = 0;
+    std::size_t written = 0;
+    std::shared_ptr<void> lock;
+    const std::pair<std::error_code, std::errc> calls[] = {
+        {files.createNew(file, handle), std::errc::file_exists},
+        {files.createNew(nowhere, handle), std::errc::no_such_file_or_directory},
+        {files.overwrite(folder, handle), std::errc::is_a_directory},
+        {files.write(-1, "x", written), std::errc::bad_file_descriptor},
+        {files.flush(-1), std::errc::bad_file_descriptor},
+        {files.close(-1), std::errc::bad_file_descriptor},
+        {files.overwrite("/dev/full", handle), {}},
+        {files.write(handle, "x", written), std::errc::no_space_on_device},
+        {files.close(handle), {}},
+        {files.overwrite(file, handle), {}},
+        {files.write(handle, "neu", written), {}},
+        {files.close(handle), {}},
+        {files.copyMode(nowhere, file), std::errc::no_such_file_or_directory},
+        {files.copyMode(file, nowhere), std::errc::no_such_file_or_directory},
+        {files.rename(file, nowhere), std::errc::no_such_file_or_directory},
+        {files.remove(folder), std::errc::is_a_directory},
+        {files.remove(nowhere), {}},
+        {files.flushFolder(nowhere), std::errc::no_such_file_or_directory},
+        {files.flushFolder("/proc"), {}}, // knows no flushing
+        {files.createFolder(nowhere), std::errc::no_such_file_or_directory},
+        {files.createFolder(folder), {}},
+        {files.lock(nowhere, lock), std::errc::no_such_file_or_directory}};
+    for (const auto& [error, expected] : calls)
+        EXPECT_EQ(error, expected) << error.message();
+    EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
+    EXPECT_FALSE(files.claim(nowhere).mark);
 }
 
 // The system's own calls, in a process that really ends.
