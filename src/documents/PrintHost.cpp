@@ -13,10 +13,10 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     using Clock = std::chrono::steady_clock;
     const auto deadline = Clock::now() + platform.PreviewTimeout;
     while (!host.PreviewReady) {
+        if (Clock::now() > deadline)
+            return Wait::Failed;
         if (!platform.ProcessEvents())
             return Wait::WindowClosed;
-        if (!host.PreviewReady && Clock::now() > deadline)
-            return Wait::Failed;
     }
     return Wait::Ready;
 }

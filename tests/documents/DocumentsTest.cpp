@@ -117,14 +117,12 @@ TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
     ScriptedPlatform script{program.folders};
     std::filesystem::path target = program.folders.HtmlFolder / "Laden.html";
     int viewed = 0;
-    int waiting = 0;
     script.platform.ShowSave = [&](const auto& folder, std::string_view) {
         EXPECT_EQ(folder, program.folders.HtmlFolder);
         EXPECT_TRUE(std::filesystem::is_directory(folder)) << "made when it is needed";
         return target;
     };
     script.platform.OpenInViewer = [&](const auto& file) { viewed += file == target ? 1 : 10; };
-    script.platform.SetWaitPointer = [&](bool on) { waiting += on ? 1 : -1; };
     ShopEditor shop;
     std::string document;
     WriteShopExport(shop, document);
@@ -141,57 +139,57 @@ TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
     ExportShop(shop, script.platform);
     target.clear();
     ExportShop(shop, script.platform);
-    EXPECT_EQ(waiting, 0);
 }
 
 TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
-    const ProgramFolder program;
-    ScriptedPlatform script{program.folders};
-    PrintHost host;
-    int rounds = 0;
-    bool readable = true;
-    std::string log;
-    const auto print = [&](std::string_view document) {
-        log.clear();
-        PrintTempDocument(host, script.platform, [&](std::string& file) { file = document; });
+    constexpr auto notWritten = "Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ";
+    constexpr auto notLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
+    const struct {
+        std::string calls, box;
+        int failing = 0;    // call of the disk
+        int readyAfter = 3; // rounds of events
+        bool readable = true, staysOpen = true, printed = true;
+    } cases[] = {{"load print ", ""},
+                 {"load ", notLoaded, 0, 0},
+                 {"load ", notLoaded, 0, 3, false},
+                 {"load ", "", 0, 3, true, false},
+                 {"load print ", "Es wurde nichts", 0, 3, true, true, false},
+                 {"", notWritten, 1},
+                 {"", notWritten, 2},
+                 {"", notWritten, 3},
+                 {"", notWritten, 4},
+                 {"", notWritten, 5}};
+    for (const auto& c : cases) {
+        MemoryDisk disk;
+        disk.names.erase(disk.folders.TempFolder.string()); // made when it is needed
+        disk.failing = {c.failing};
+        ScriptedPlatform script{disk.folders};
+        script.platform.disk.files = disk.Files();
+        auto& [setVisible, navigate, print] = script.platform.Browser;
+        PrintHost host;
+        std::string calls;
+        int rounds = 0;
+        setVisible = [&](bool visible) { calls += visible ? "show " : "hide "; };
+        navigate = [&](const std::filesystem::path& file) {
+            EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
+            EXPECT_EQ(disk.Files().read(file, LargestFile).bytes, "Seite");
+            calls += "load ";
+            return c.readable;
+        };
+        print = [&] { return calls += "print ", c.printed; };
+        script.platform.PreviewTimeout = std::chrono::hours(c.readyAfter);
+        script.platform.ProcessEvents = [&] {
+            PrintTempDocument(host, script.platform, [](std::string&) { FAIL() << "a second"; });
+            host.PreviewReady = ++rounds == c.readyAfter;
+            return c.staysOpen;
+        };
+        if (!c.box.empty())
+            script.ExpectMessage(c.box);
+        host.PreviewReady = true;
+        PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
+        EXPECT_EQ(calls, "show " + c.calls + "hide ");
         EXPECT_FALSE(host.busy || host.PreviewReady);
-        return log;
-    };
-    script.platform.Browser.SetVisible = [&](bool visible) { log += visible ? "show " : "hide "; };
-    script.platform.Browser.Navigate = [&](const std::filesystem::path& file) {
-        EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
-        const FileText page = script.platform.disk.files.read(file, LargestFile);
-        log += "load[" + page.bytes + "] ";
-        return readable;
-    };
-    script.platform.Browser.Print = [&] { return log += "print ", true; };
-    script.platform.ProcessEvents = [&] {
-        PrintTempDocument(host, script.platform,
-                          [](std::string&) { ADD_FAILURE() << "a second print during the wait"; });
-        host.PreviewReady = ++rounds == 3;
-        return true;
-    };
-    host.PreviewReady = true;
-    EXPECT_EQ(print("ein langes Dokument"), "show load[ein langes Dokument] print hide ");
-    EXPECT_EQ(rounds, 3);
-    script.platform.PreviewTimeout = std::chrono::milliseconds(20);
-    script.ExpectMessage("Die Druckseite konnte nicht geladen werden.\n\nDatei: ");
-    EXPECT_EQ(print("kurz"), "show load[kurz] hide ") << "the page never comes";
-    readable = false;
-    script.platform.PreviewTimeout = std::chrono::hours(1);
-    script.ExpectMessage("Die Druckseite konnte nicht geladen werden.\n\nDatei: ");
-    EXPECT_EQ(print("weg"), "show load[weg] hide ") << "told at once";
-    std::filesystem::remove_all(program.folders.TempFolder);
-    EXPECT_EQ((readable = true, script.platform.PreviewTimeout = std::chrono::milliseconds(20),
-               rounds = 0, print("neuer Ordner")),
-              "show load[neuer Ordner] print hide ");
-    MemoryDisk disk;
-    script.platform.disk = {disk.Files(), disk.folders};
-    for (const int call : {1, 2, 3, 4, 5}) {
-        disk.failing = {disk.calls + call};
-        script.ExpectMessage("Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ");
-        EXPECT_EQ(print("neu"), "show hide ") << call;
-        EXPECT_TRUE(disk.Files().entries(disk.folders.TempFolder).empty()) << "half a page";
+        EXPECT_EQ(disk.Files().entries(disk.folders.TempFolder).empty(), c.failing > 0);
     }
 }
 

@@ -131,7 +131,7 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
         (reloads.*act)();
         EXPECT_EQ(reloads.File("Kleidung"), foreign + before) << "nothing is written";
         EXPECT_EQ(RecordOfForm(reloads.editor), Hat) << "what the user typed stays";
-        EXPECT_TRUE(reloads.Rows().starts_with("Ärmel Fremd"_ansi));
+        EXPECT_TRUE(reloads.Shown().starts_with("Ärmel 5S Fremd 1H"_ansi));
         reloads.Save();
         EXPECT_EQ(reloads.File("Kleidung"), foreign + changed) << "still the same item";
         EXPECT_EQ(reloads.questions, 1);

@@ -1,95 +1,13 @@
-#include "store/CategoryList.h"
-#include "support/EditorAtWork.h"
-#include "text/GermanOrder.h"
+#include "itemeditor/EditorModel.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <numeric>
 #include <random>
 
 namespace emporium::test {
 namespace {
-
-struct Row {
-    std::string category;
-    ItemRecord record;
-};
-
-// What the files and the editor should hold, in the plainest form.
-struct Model {
-    std::vector<std::string> list;
-    std::map<std::string, std::vector<ItemRecord>> files;
-    std::string view, formCategory; // empty for none
-    std::vector<Row> rows;
-    int chosen = -1;
-    bool editing = false;
-    ItemRecord form;
-    bool unit = false; // the form has one
-    int column = ItemNameColumn;
-    bool descending = false;
-
-    bool IsCategory(const std::string& name) const { return files.contains(name); }
-    Row& Chosen() { return rows[static_cast<std::size_t>(chosen)]; }
-
-    // The chosen record in its file.
-    auto Stored() {
-        const auto others =
-            std::count_if(rows.begin(), rows.begin() + chosen,
-                          [this](const Row& row) { return row.category == Chosen().category; });
-        return files[Chosen().category].begin() + others;
-    }
-
-    void EndEditing() {
-        editing = unit = false;
-        form = {};
-    }
-
-    void Load(const std::string& wanted) {
-        view = formCategory = wanted;
-        rows.clear();
-        for (const std::string& name : list)
-            if (view == AllCategories || view == name)
-                for (const ItemRecord& record : files[name])
-                    rows.push_back({name, record});
-        chosen = rows.empty() ? -1 : 0;
-        EndEditing();
-    }
-
-    std::vector<int> Order() const {
-        std::vector<int> order(rows.size());
-        std::iota(order.begin(), order.end(), 0);
-        std::stable_sort(order.begin(), order.end(), [&](int left, int right) {
-            if (descending)
-                std::swap(left, right);
-            const auto cell = [&](int row) {
-                return ItemCell(ViewOf(rows[static_cast<std::size_t>(row)].record), column);
-            };
-            return GermanLess(cell(left), cell(right));
-        });
-        return order;
-    }
-
-    // The row that takes its place on the screen is chosen then, or the last one.
-    void TakeOutChosen() {
-        auto order = Order();
-        auto next = order.erase(std::find(order.begin(), order.end(), chosen));
-        if (next == order.end() && !order.empty())
-            --next;
-        files[Chosen().category].erase(Stored());
-        rows.erase(rows.begin() + chosen);
-        chosen = order.empty() ? -1 : *next - (*next > chosen ? 1 : 0);
-        EndEditing();
-    }
-
-    bool CanSave() const {
-        return form[NameField].size() > 1 && form[PriceField].size() > (unit ? 1U : 0U);
-    }
-
-    bool CanDrop() const { return rows.empty() && IsCategory(view) && !IsFixedCategory(view); }
-};
 
 class RandomOperations : public testing::Test {
 protected:
@@ -115,6 +33,7 @@ protected:
         model.chosen = static_cast<int>(Throw(model.rows.size()));
         model.form = model.Chosen().record;
         model.editing = model.unit = true;
+        model.toolTip = ItemName(ViewOf(model.form));
         world.Open(model.chosen);
     }
 
@@ -148,7 +67,10 @@ protected:
             }
             model.EndEditing();
         } else {
+            const bool changes = model.Chosen().record != model.form;
             *model.Stored() = model.Chosen().record = model.form;
+            model.shown = changes ? model.PlaceOf(model.chosen) : model.shown;
+            model.toolTip = ItemName(ViewOf(model.form));
             model.EndEditing();
         }
         world.Save();
@@ -163,6 +85,7 @@ protected:
         if (model.view.empty())
             return model.Load(home);
         model.rows.push_back({home, model.form});
+        model.shown = model.PlaceOf(static_cast<int>(model.rows.size()) - 1);
         model.EndEditing();
     }
 
@@ -193,6 +116,12 @@ protected:
     void PickFormCategory() {
         model.formCategory = OneOf(world.editor.cmbItemKategorien.Entries());
         world.FormCategory(model.formCategory);
+    }
+
+    void Begin() {
+        model.EndEditing();
+        StartNewItem(world.editor, world.script.platform);
+        ASSERT_EQ(std::exchange(world.script.focus, ""), "name");
     }
 
     void New() {
@@ -226,11 +155,14 @@ protected:
     void Operate() {
         using Self = RandomOperations;
         static constexpr std::array operations = {
-            &Self::OpenAny, &Self::OpenAny,     &Self::TypeAny,    &Self::TypeAny,
-            &Self::Save,    &Self::Save,        &Self::Save,       &Self::Delete,
-            &Self::Delete,  &Self::Sort,        &Self::SwitchView, &Self::PickFormCategory,
-            &Self::New,     &Self::DropCategory};
+            &Self::OpenAny, &Self::OpenAny,      &Self::TypeAny,    &Self::TypeAny,
+            &Self::Save,    &Self::Save,         &Self::Save,       &Self::Delete,
+            &Self::Delete,  &Self::Sort,         &Self::SwitchView, &Self::PickFormCategory,
+            &Self::New,     &Self::DropCategory, &Self::Begin};
+        const auto before = world.Shown();
+        const unsigned revision = world.editor.lvGegenstände.revision;
         (this->*operations[Throw(operations.size())])();
+        ASSERT_TRUE(world.Shown() == before || world.editor.lvGegenstände.revision > revision);
     }
 
     void ExpectAgreement() {
@@ -249,7 +181,9 @@ protected:
         ASSERT_EQ(world.Records(), records);
         ASSERT_EQ(editor.lvGegenstände.rows, model.Order());
         ASSERT_EQ(editor.CurrentItemRow, model.chosen);
-        ASSERT_EQ(ChosenPlace(editor) >= 0, model.chosen >= 0);
+        ASSERT_EQ(ChosenPlace(editor), model.PlaceOf(model.chosen));
+        ASSERT_EQ(editor.lvGegenstände.reveal.row, model.shown);
+        ASSERT_EQ(editor.lvGegenstände.toolTip, model.toolTip);
         ASSERT_EQ(editor.EditingExisting, model.editing);
         ASSERT_EQ(RecordOfForm(editor), model.form);
         ASSERT_EQ(editor.cmbKategorien.Text(), model.view);

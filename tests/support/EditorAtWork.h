@@ -85,7 +85,7 @@ public:
     }
 
     void FormCategory(std::string_view entry) {
-        editor.cmbItemKategorien.Select(PlaceOf(editor.cmbItemKategorien, entry));
+        ChooseItemCategory(editor, PlaceOf(editor.cmbItemKategorien, entry));
     }
 
     /// Picks the row of a record, or of the first of that name.
@@ -107,7 +107,7 @@ public:
         EditItemText(editor, WeightText, record[WeightField]);
         EditItemText(editor, PriceText, std::string(WithoutLast(record[PriceField])));
         EditItemText(editor, DescriptionText, record[DescriptionField]);
-        editor.cmbItemPreis.Select(PlaceOfMark("DSHP", record[PriceField]));
+        ChooseItemUnit(editor, PlaceOfMark("DSHP", record[PriceField]));
         ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
         ReturnAllRegions(editor);
         for (const std::string_view code : AvailabilityCodes(record[AvailabilityField])) {
@@ -125,12 +125,13 @@ public:
         Delete();
     }
 
-    /// The names in the list as they stand in it, with a blank between them.
-    std::string Rows() const {
-        std::string names;
+    /// The names and prices in the list as they stand in it.
+    std::string Shown() const {
+        std::string shown;
         for (const int row : editor.lvGegenstände.rows)
-            names.append(names.empty() ? "" : " ").append(ItemName(editor.Record(row)));
-        return names;
+            for (const int column : {ItemNameColumn, ItemPriceColumn})
+                shown.append(ItemCell(editor.Record(row), column)).append(" ");
+        return shown;
     }
 
     /// The records of the view.

@@ -36,10 +36,12 @@ public:
             return Answer("text", prompt);
         };
         platform.ShowGeneratorDialog = [] {};
-        platform.SetWaitPointer = [](bool) {};
-        platform.FocusItemName = platform.FocusItemUnit = [] {};
+        platform.SetWaitPointer = [this](bool on) { EXPECT_NE(std::exchange(waiting_, on), on); };
+        platform.FocusItemName = [this] { focus = "name"; };
+        platform.FocusItemUnit = [this] { focus = "unit"; };
     }
     ~ScriptedPlatform() {
+        EXPECT_FALSE(waiting_);
         for (const Step& step : script_)
             ADD_FAILURE() << "never asked: " << step.kind << " " << step.text;
     }
@@ -69,6 +71,9 @@ public:
         throws_.insert(throws_.end(), throws.begin(), throws.end());
     }
 
+    /// The field that got the keyboard focus last.
+    std::string focus;
+
     /// The sides of the dice thrown so far.
     std::vector<int> sides;
 
@@ -78,6 +83,7 @@ private:
     };
 
     std::string Answer(std::string_view kind, std::string_view text) {
+        EXPECT_FALSE(waiting_) << "a box under the wait pointer: " << text;
         if (script_.empty()) {
             ADD_FAILURE() << "unexpected: " << kind << " " << text;
             return {};
@@ -91,6 +97,7 @@ private:
 
     std::deque<Step> script_;
     std::deque<int> throws_;
+    bool waiting_ = false;
 };
 
 } // namespace emporium::test
