@@ -142,6 +142,34 @@ TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing)
     }
 }
 
+TEST(Start, ShowsTheItemsAndTurnsToTheShopAndBack) {
+    Installation here;
+    frmEmporiumMain window;
+    ItemEditor& items = window.items;
+    const Button* const ofItems[] = {&items.cmdItemNeu, &items.cmdItemDelete, &items.cmdItemSave};
+    const auto visible = [&](bool is) {
+        return std::all_of(std::begin(ofItems), std::end(ofItems),
+                           [is](const Button* button) { return button->visible == is; });
+    };
+    EXPECT_TRUE(StartUp(window, here.script.platform));
+    EXPECT_TRUE(window.caption.starts_with("Orvan-Emporium 3 v"));
+    EXPECT_TRUE(visible(false) && !items.cmdItemHin.visible && !items.lvGegenstände.visible);
+    EXPECT_FALSE(items.cmdItemSave.enabled || items.cmdListeDrucken.enabled ||
+                 items.cmdKategorieDelete.enabled || window.shop.cmdGenName.enabled);
+    for (const bool chosen : {false, true}) {
+        if (chosen)
+            ChooseCategory(items, here.script.platform, 1);
+        ShowShopEditor(window);
+        EXPECT_TRUE(window.mode == Mode::ShopEditor && items.cmdItemHin.visible);
+        EXPECT_TRUE(items.cmdItemHin.enabled == chosen && visible(chosen));
+        ShowItemEditor(window);
+        EXPECT_TRUE(window.mode == Mode::ItemEditor && !items.cmdItemHin.visible);
+    }
+    here.script.platform.OpenInViewer = [&](const auto& page) { window.caption = page.stem(); };
+    OpenHelp(here.script.platform);
+    EXPECT_EQ(window.caption, "Emporium");
+}
+
 TEST(Start, SaysThatTheProgramStandsAlone) {
     Installation here;
     fs::remove_all(here.program.folders.DataFolder);

@@ -8,7 +8,6 @@
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
 #include "regions/Availability.h"
-#include "store/WriteTurn.h"
 #include "support/MemoryDisk.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
@@ -186,62 +185,24 @@ public:
     }
 };
 
-/// Runs the act in worlds of their own, each time with another call of the disk failing, also
-/// together with a second one, or being the last. A failure is told, and files, records and
-/// controls stand as before, or as without it; after a restart the disk holds what the window
-/// shows, and nothing is lost or doubled if the program was killed.
-inline void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
-                               const std::function<void(EditorAtWork&)>& act) {
-    EditorAtWork whole;
-    prepare(whole);
-    const auto filesBefore = whole.Files();
-    const auto stateBefore = whole.State();
-    act(whole);
-    const auto filesAfter = whole.Files();
-    const auto stateAfter = whole.State();
-    const auto fails = [&](int n, int second, int killed) {
-        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second) + ", killed " +
-                     std::to_string(killed));
-        EditorAtWork world;
-        prepare(world);
-        int boxes = 0;
-        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
-        auto& disk = world.program;
-        disk.calls = 0;
-        if (killed > 0)
-            disk.lastCall = n;
-        else
-            disk.failing = {n, second};
-        try {
-            act(world);
-        } catch (const KilledHere&) {
-        }
-        world.script.Forget();
-        const bool reached = disk.calls >= n;
-        disk.CutPower((killed & 2) != 0, (killed & 4) != 0); // each of them, both or none
-        EXPECT_TRUE(InTurn(world.script.platform.disk, [] { return Outcome{true, {}}; }).stands);
-        EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
-        if (killed == 0) {
-            const bool stands = world.Files() == filesAfter;
-            EXPECT_TRUE(stands || boxes > 0);
-            EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
-        }
-        return reached;
-    };
-    for (int n = 1; fails(n, 0, 0); ++n)
-        for (int second = n + 1; second < n + 12; ++second)
-            fails(n, second, 0);
-    for (const int killed : {1, 3, 5, 7})
-        for (int n = 1; fails(n, 0, killed);)
-            ++n;
-}
-
 /// The records as a file holds them.
 inline std::string RecordLines(const std::vector<ItemRecord>& records) {
     std::string text;
     for (const ItemRecord& record : records)
         text += Lines({record[0], record[1], record[2], record[3], record[4]});
     return text;
+}
+
+inline const ItemRecord Hat = {"Hut2", "1,5", "12S", "Spitz", "BO|TH|"};
+
+/// Saves, and expects a box and that all stays as it was.
+inline void ExpectRefusal(EditorAtWork& world, std::string_view message) {
+    const auto files = world.Files();
+    const auto state = world.State();
+    world.script.ExpectMessage(message);
+    world.Save();
+    EXPECT_EQ(world.Files(), files) << message;
+    EXPECT_EQ(world.State(), state) << message;
 }
 
 } // namespace emporium::test

@@ -1,0 +1,110 @@
+#include "store/WriteTurn.h"
+#include "support/EditorAtWork.h"
+
+#include <gtest/gtest.h>
+
+namespace emporium::test {
+namespace {
+
+// Runs the act in worlds of their own, each time with another call of the disk failing, also
+// together with a second one, or being the last. A failure is told, and files, records and
+// controls stand as before, or as without it; after a restart the disk holds what the window
+// shows, and nothing is lost or doubled if the program was killed.
+void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
+                        const std::function<void(EditorAtWork&)>& act) {
+    EditorAtWork whole;
+    prepare(whole);
+    const auto filesBefore = whole.Files();
+    const auto stateBefore = whole.State();
+    act(whole);
+    const auto filesAfter = whole.Files();
+    const auto stateAfter = whole.State();
+    const auto fails = [&](int n, int second, int killed) {
+        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second) + ", killed " +
+                     std::to_string(killed));
+        EditorAtWork world;
+        prepare(world);
+        int boxes = 0;
+        world.script.platform.ShowMessage = [&boxes](std::string_view) { ++boxes; };
+        auto& disk = world.program;
+        disk.calls = 0;
+        if (killed > 0)
+            disk.lastCall = n;
+        else
+            disk.failing = {n, second};
+        try {
+            act(world);
+        } catch (const KilledHere&) {
+        }
+        world.script.Forget();
+        const bool reached = disk.calls >= n;
+        disk.CutPower((killed & 2) != 0, (killed & 4) != 0); // each of them, both or none
+        EXPECT_TRUE(InTurn(world.script.platform.disk, [] { return Outcome{true, {}}; }).stands);
+        EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
+        if (killed == 0) {
+            const bool stands = world.Files() == filesAfter;
+            EXPECT_TRUE(stands || boxes > 0);
+            EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
+        }
+        return reached;
+    };
+    for (int n = 1; fails(n, 0, 0); ++n)
+        for (int second = n + 1; second < n + 12; ++second)
+            fails(n, second, 0);
+    for (const int killed : {1, 3, 5, 7})
+        for (int n = 1; fails(n, 0, killed);)
+            ++n;
+}
+
+// A way of saving the Hat: from a view, in place of the coat or as a new item, with a category in
+// the form, and perhaps with a Yes to the question whether the item moves.
+struct Road {
+    std::string_view view, open, formCategory;
+    bool moves;
+};
+
+const Road Roads[] = {
+    {"Kleidung", "", "Kleidung", false},    {"Kleidung", "", "Fernwaffen", false},
+    {"Abakus", "", "Alles", false},         {"Alles", "", "Nahkampfwaffen", false},
+    {"Kleidung", "mantel", "Alles", false}, {"Alles", "mantel", "Abakus", false},
+    {"Kleidung", "mantel", "Abakus", true}, {"Kleidung", "mantel", "Nahkampfwaffen", true},
+};
+
+void Prepare(EditorAtWork& world, const Road& road) {
+    world.View(road.view);
+    if (!road.open.empty())
+        world.Open(road.open);
+    world.FormCategory(road.formCategory);
+    world.Fill(Hat);
+}
+
+void Take(EditorAtWork& world, const Road& road) {
+    if (road.moves)
+        world.script.ExpectYesNo(MoveQuestion, true);
+    world.Save();
+}
+
+TEST(AllOrNothing, AFailureChangesNothingOnAnyRoad) {
+    for (const Road& road : Roads)
+        ExpectAllOrNothing([&](EditorAtWork& world) { Prepare(world, road); },
+                           [&](EditorAtWork& world) { Take(world, road); });
+    for (const std::string_view view : {"Alles", "Kleidung"})
+        ExpectAllOrNothing(
+            [&](EditorAtWork& world) {
+                world.View(view);
+                world.Open("Zopf");
+            },
+            [](EditorAtWork& world) { world.Delete(true); });
+    const auto empty = [](EditorAtWork& world) { world.View("Abakus"); };
+    ExpectAllOrNothing(empty, [](EditorAtWork& world) {
+        world.script.ExpectText(NamePrompt, "Zelte");
+        NewCategory(world.editor, world.script.platform);
+    });
+    ExpectAllOrNothing(empty, [](EditorAtWork& world) {
+        world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+        DeleteCategory(world.editor, world.script.platform);
+    });
+}
+
+} // namespace
+} // namespace emporium::test

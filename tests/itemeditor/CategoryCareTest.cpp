@@ -1,0 +1,97 @@
+#include "support/EditorAtWork.h"
+
+#include <gtest/gtest.h>
+
+namespace emporium::test {
+namespace {
+
+TEST(CategoryCare, WhatAnotherProgramDidToTheCategoriesStands) {
+    EditorAtWork world;
+    const auto list = [&world] { return world.File("ItemKategorien"); };
+    const auto create = [&world] { NewCategory(world.editor, world.script.platform); };
+    const std::string names = "\nAlles\nAbakus\n\nFremd\nKleidung";
+    world.View("Alles");
+    world.program.Write("Emporium/ItemKategorien.dat", "4" + names);
+    world.script.ExpectText(NamePrompt, "Zelte");
+    world.script.ExpectMessage("Die Kategorie konnte nicht angelegt werden.\n\nItemKategorien.dat");
+    create();
+    EXPECT_EQ(list(), "4" + names) << "one name is missing";
+    world.program.Write("Emporium/ItemKategorien.dat", "3" + names);
+    world.script.ExpectText(NamePrompt, "Zelte");
+    create();
+    EXPECT_EQ(list(), " 4 " + names + "\nZelte\n");
+    EXPECT_EQ(world.editor.cmbKategorien.Entries(),
+              (std::vector<std::string>{"Abakus", "Alles", "Fremd", "Kleidung", "Zelte"}));
+
+    world.FormCategory("Fremd"); // unknown to the view, and without a file
+    world.Fill(Hat);
+    world.Save();
+    EXPECT_EQ(world.File("Fremd"), RecordLines({Hat}));
+
+    world.program.Write("Emporium/ItemKategorien.dat", "1\nKleidung\n");
+    world.program.Remove("Emporium/Abakus.dat");
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nAbakus.dat: Die Datei fehlt.");
+    world.View("Abakus");
+    world.Fill(Hat);
+    ExpectRefusal(world, "Abakus.dat: Diese Kategorie gibt es nicht mehr");
+    world.View("Kleidung");
+    world.Open("Zopf");
+    world.FormCategory("Abakus");
+    world.script.ExpectYesNo(MoveQuestion, true);
+    ExpectRefusal(world, "Abakus.dat: Diese Kategorie gibt es nicht mehr");
+
+    world.program.Write("Emporium/ItemKategorien.dat", "1\nAlles\nAbakus\n");
+    world.program.Write("Emporium/Abakus.dat", "");
+    world.View("Abakus");
+    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+    world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
+    world.program.Write("Emporium/Abakus.dat", "Fremd1\n");
+    DeleteCategory(world.editor, world.script.platform);
+    EXPECT_EQ(world.File("Abakus"), "Fremd1\n");
+    world.program.Write("Emporium/Abakus.dat", "");
+    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+    DeleteCategory(world.editor, world.script.platform);
+    EXPECT_EQ(list(), " 0 \nAlles\n");
+}
+
+TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew) {
+    EditorAtWork world;
+    const auto refuse = [&](std::string_view told) {
+        world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+        world.script.ExpectMessage(told);
+        DeleteCategory(world.editor, world.script.platform);
+    };
+    const auto abakus = world.program.folders.EmporiumFolder() / "Abakus.dat";
+    const std::string list = world.File("ItemKategorien");
+    world.View("Abakus");
+    for (const auto kind : {FileStatus::Kind::Other, FileStatus::Kind::Link}) {
+        world.program.Put(abakus, "/fremd/ziel.dat", kind);
+        refuse("Die Kategorie konnte nicht gelöscht werden."_ansi);
+        EXPECT_EQ(world.File("ItemKategorien"), list);
+    }
+    world.program.Put(abakus, "");
+    world.program.locked = true;
+    refuse("Ein anderes Fenster des Programms schreibt gerade.");
+    world.Fill(Hat);
+    ExpectRefusal(world, "Ein anderes Fenster des Programms schreibt gerade.");
+    world.program.locked = false;
+
+    world.program.Remove("Emporium/ItemKategorien.dat");
+    const std::string question =
+        "Die Liste der Kategorien fehlt. Soll sie neu angelegt werden, mit "
+        "den drei festen Kategorien und allen, deren Dateien da sind?";
+    world.script.ExpectYesNo(question, false);
+    NewCategory(world.editor, world.script.platform);
+    EXPECT_EQ(world.File("ItemKategorien"), "(absent)");
+    world.script.ExpectYesNo(question, true);
+    world.script.ExpectText(NamePrompt, "");
+    NewCategory(world.editor, world.script.platform);
+    EXPECT_EQ(
+        world.File("ItemKategorien"),
+        std::string(" 6 \r\nNahkampfwaffen\r\nFernwaffen\r\nRüstungen\r\nAbakus\r\nKleidung\r\n"
+                    "Öllampen\r\n"_ansi));
+    EXPECT_EQ(world.editor.cmbKategorien.Entries().size(), 7U);
+}
+
+} // namespace
+} // namespace emporium::test
