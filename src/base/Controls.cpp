@@ -34,9 +34,6 @@ void ChoiceList::AddAll(const std::vector<std::string>& entries) {
     for (const int i : order)
         sorted.push_back(std::move(entries_[static_cast<std::size_t>(i)]));
     entries_ = std::move(sorted);
-    if (selection_ >= 0)
-        selection_ =
-            static_cast<int>(std::find(order.begin(), order.end(), selection_) - order.begin());
 }
 
 void ChoiceList::RemoveSelected() {

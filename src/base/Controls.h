@@ -46,7 +46,7 @@ public:
     /// Adds an entry, at its alphabetical place in a sorted list. The same entry stays selected.
     void Add(std::string_view entry);
 
-    /// Adds entries in one go, which takes far less time for many.
+    /// Adds entries, before any is selected, in one go, which takes far less time for many.
     void AddAll(const std::vector<std::string>& entries);
 
     /// Removes the selected entry; none is selected then. Nothing happens without a selection.

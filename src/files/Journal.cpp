@@ -49,12 +49,11 @@ std::string FingerprintText(const std::optional<Fingerprint>& print) {
                  : "-\n-\n";
 }
 
-// False for lines that are neither two numbers nor two times "-".
+// False for lines that are neither two numbers nor two times "-", which is none.
 bool ReadFingerprint(LineReader& lines, std::optional<Fingerprint>& print) {
     std::string_view length, checksum;
     lines.Next(length);
     lines.Next(checksum);
-    print.reset();
     if (length == "-" && checksum == "-")
         return true;
     const auto first = ReadNumber(length);

@@ -29,7 +29,7 @@ std::string BuildAvailability(const std::vector<std::string>& codes) {
 
 std::vector<std::string_view> AvailabilityCodes(std::string_view availability) {
     std::vector<std::string_view> codes;
-    codes.reserve(availability.size() / 3 + 1);
+    codes.reserve(availability.size() / 3);
     while (!availability.empty()) {
         const auto mark = availability.find(Mark);
         codes.push_back(availability.substr(0, mark));

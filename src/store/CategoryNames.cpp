@@ -48,9 +48,9 @@ bool IsPlainName(std::string_view name) {
 }
 
 bool IsOwnFile(std::string_view name) {
-    static const std::array<std::string, 6> own = {
-        "itemkategorien",         "shopgeneratorconfig", "shopgeneratorshops",
-        "emporiumnahkampfwaffen", "emporiumfernwaffen",  std::string("emporiumrüstungen"_ansi)};
+    static constexpr std::array own = {"itemkategorien"_ansi,     "shopgeneratorconfig"_ansi,
+                                       "shopgeneratorshops"_ansi, "emporiumnahkampfwaffen"_ansi,
+                                       "emporiumfernwaffen"_ansi, "emporiumrüstungen"_ansi};
     return std::find(own.begin(), own.end(), FoldCase(name)) != own.end();
 }
 

@@ -24,7 +24,7 @@ std::string_view WholeRecords(std::string_view bytes) {
     for (RecordView record; reader.Next(record);) {
         const std::string_view last = record.back();
         const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
-        end = std::min(bytes.find('\n', lastEnd), bytes.size() - 1) + 1;
+        end = std::min(bytes.find('\n', lastEnd), bytes.size()) + 1;
     }
     return bytes.substr(0, end);
 }

@@ -91,6 +91,12 @@ bool TryTrouble(const Changes& changes, Trouble trouble, int n, int second) {
     }
     const bool reached = disk.calls >= n;
     EXPECT_TRUE(!dropped || second > 0 || trouble != Trouble::Fails || here.Look() == before);
+    if (trouble == Trouble::Killed && second > 0) {
+        disk.Restart();
+        disk.failing = {second};
+        const bool told = FinishJournal(disk.Files(), here.folder).failure.has_value();
+        EXPECT_TRUE(told || !here.Look().contains(JournalName));
+    }
     if (trouble > Trouble::Killed)
         disk.CutPower(trouble != Trouble::NamesLost, trouble != Trouble::ContentsLost);
     const State finished = here.Finish();
@@ -108,7 +114,7 @@ TEST(FileWriting, WhicheverCallsBreakAllFilesAreOldOrAllAreNew) {
                                   Trouble::ContentsLost, Trouble::NamesLost, Trouble::BothLost})
         for (const Changes& changes : AllChanges)
             for (int n = 1; TryTrouble(changes, trouble, n, 0); ++n)
-                for (int second = n + 1; trouble == Trouble::Fails && second < n + 25; ++second)
+                for (int second = n + 1; trouble <= Trouble::Killed && second < n + 25; ++second)
                     TryTrouble(changes, trouble, n, second);
 }
 
@@ -159,6 +165,13 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
         EXPECT_EQ(WriteDocument(layer, closed.folder / "b.dat", "Laden") ? "alt b.dat" : "Laden",
                   closed.disk.Read("Emporium/b.dat"));
         EXPECT_TRUE(WriteDocument(layer, closed.folder / "neu.html", "Laden"));
+        Writing fails;
+        const State before = fails.Look();
+        fails.disk.failing = {n};
+        if (WriteDocument(fails.disk.Files(), fails.folder / "c.dat", "Laden"))
+            EXPECT_EQ(fails.Look(), before);
+        else
+            EXPECT_EQ(fails.Look(), fails.With({{"c.dat", "Laden"}}));
         Writing cut;
         cut.disk.lastCall = n;
         try {

@@ -66,7 +66,8 @@ TEST(Start, MayBreakOffInAnyCallAndIsFinishedByTheNext) {
             disk.Write(name, here.program.Read(name));
         ScriptedPlatform script(disk.folders);
         script.platform.disk.files = disk.Files();
-        script.platform.ShowMessage = [](std::string_view) {};
+        bool told = false;
+        script.platform.ShowMessage = [&told](std::string_view) { told = true; };
         if (trouble == 0)
             disk.failing = {n};
         else
@@ -80,6 +81,7 @@ TEST(Start, MayBreakOffInAnyCallAndIsFinishedByTheNext) {
         } catch (const KilledHere&) {
         }
         const bool reached = disk.calls >= n;
+        EXPECT_TRUE(told || trouble > 0 || disk.Read(PresentFile) == Older + Imported);
         disk.CutPower((trouble & 2) != 0, (trouble & 4) != 0);
         start();
         EXPECT_EQ(disk.Read(PresentFile), Older + Imported);

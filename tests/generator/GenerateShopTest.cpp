@@ -144,7 +144,16 @@ TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
     EXPECT_FALSE(dialog.cmdStart.enabled) << "a ticked box needs a region";
     ChooseGeneratorRegion(dialog, script.platform, 18);
     EXPECT_TRUE(dialog.cmdStart.enabled && dialog.cmbShopRegion.enabled);
-    OpenGenerator(dialog, shop, script.platform);
+    shop.lvLaden.rows.resize(1);
+    for (const bool goOn : {false, true}) {
+        script.ExpectYesNo(
+            "Ihr arbeitet momentan an einem Shop, beim Start des Generators werden "
+            "sämtliche Werte verworfen ! Wollt ihr den Generator wirklich starten ?"_ansi,
+            goOn);
+        OpenGenerator(dialog, shop, script.platform);
+        EXPECT_TRUE(dialog.chkShopRegion.ticked != goOn && shop.ShopCount() == (goOn ? 0 : 1));
+    }
+    EXPECT_EQ(dialog.cmbShopQualität.Entries().back(), "5 - Spezialist");
     EXPECT_FALSE(dialog.chkShopRegion.ticked || dialog.cmbShopRegion.enabled || dialog.open);
     EXPECT_EQ(dialog.cmbShopRegion.Selection(), -1);
 }

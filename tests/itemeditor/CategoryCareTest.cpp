@@ -1,3 +1,4 @@
+#include "files/Journal.h"
 #include "support/EditorAtWork.h"
 
 #include <gtest/gtest.h>
@@ -74,9 +75,23 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
     refuse("Ein anderes Fenster des Programms schreibt gerade.");
     world.Fill(Hat);
     ExpectRefusal(world, "Ein anderes Fenster des Programms schreibt gerade.");
+    world.script.ExpectText(NamePrompt, "Zelte");
+    world.script.ExpectMessage("Ein anderes Fenster des Programms schreibt gerade.");
+    NewCategory(world.editor, world.script.platform);
+    const auto journal = world.program.folders.EmporiumFolder() / JournalName;
+    world.program.Put(journal, "");
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nEin früherer Schreibvorgang"_ansi);
+    world.View("Abakus");
     world.program.locked = false;
+    world.script.ExpectMessage("Nicht alles ist gelungen:\n\nSchreibvorgang.orvan-journal: ");
+    world.View("Abakus");
 
     world.program.Remove("Emporium/ItemKategorien.dat");
+    std::vector<std::string> faults;
+    ReadCategoryList(world.editor, world.script.platform.disk, faults);
+    ASSERT_EQ(faults.size(), 1U);
+    EXPECT_EQ(faults[0], "ItemKategorien.dat: Die Datei oder ihr Ordner fehlt. Deshalb gibt es nur "
+                         "die Auswahl „Alles“."_ansi);
     const std::string question =
         "Die Liste der Kategorien fehlt. Soll sie neu angelegt werden, mit "
         "den drei festen Kategorien und allen, deren Dateien da sind?";

@@ -75,6 +75,13 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
         EXPECT_EQ(reloads.File("Kleidung"), foreign + changed) << "still the same item";
         EXPECT_EQ(reloads.questions, 1);
     }
+    World first(before + foreign, false);
+    first.Open(0);
+    first.Fill(Hat);
+    first.Save();
+    first.Save();
+    EXPECT_EQ(first.File("Kleidung"),
+              RecordLines({Hat}) + before.substr(before.find("Ärmel"_ansi)) + foreign);
     World vanished(foreign, false);
     vanished.Save();
     vanished.script.ExpectMessage("Bitte wählt zuerst"_ansi);
@@ -103,12 +110,12 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
 
 TEST(ItemSaving, ARecordWithoutItsMarksIsNotMoved) {
     EditorAtWork world;
-    const std::string bytes = Lines({"Seil", "", "12", "", ""});
+    const std::string bytes = Lines({"Seil1", "", "12", "", ""});
     world.program.Write("Emporium/Abakus.dat", bytes);
     world.script.ExpectMessage("Nicht alles ist gelungen");
     world.View("Abakus");
     world.Open(0);
-    world.Fill({"Seil1", "", "12H", "", ""});
+    world.Fill({"Seil2", "", "12H", "", ""});
     world.FormCategory("Kleidung");
     world.script.ExpectYesNo(MoveQuestion, true);
     const std::string before = world.File("Kleidung");

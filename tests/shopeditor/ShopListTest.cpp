@@ -64,6 +64,7 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     ChooseShopRow(shop, 0);
     RemoveShopRow(shop, script.platform);
     EXPECT_EQ(LastRemovedWare(shop), "Seil");
+    EXPECT_FALSE(shop.cmdShopDelete.enabled);
     RecoverShopRow(shop, script.platform);
     EXPECT_TRUE(shop.cmdShopDelete.enabled && LastRemovedWare(shop).empty());
     RecoverShopRow(shop, script.platform);
@@ -86,7 +87,7 @@ TEST_F(ShopList, WaresWhosePriceCannotBeReckonedAreNamedWhenALevelIsPicked) {
     std::string told;
     auto show = script.platform.ShowMessage;
     script.platform.ShowMessage = [&](std::string_view text) { show(told = text); };
-    PickPriceLevel(shop, script.platform, 3);
+    PickPriceLevel(shop, script.platform, 0);
     EXPECT_TRUE(told.ends_with("\nE: 0D\nund 2 weitere")) << told;
     PickPriceLevel(shop, script.platform, -1);
 }
