@@ -15,13 +15,13 @@ namespace {
 constexpr int CaptionIndent = 8;
 constexpr int CaptionMargin = 3;
 
-// A dark and a light line, so that one of them shows on any ground.
+// A light line for dark ground, and a dark one between it and the button's light face.
 void DrawFocusRing(QPainter& painter, const QRect& place) {
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Qt::black);
-    painter.drawRect(place.adjusted(0, 0, -1, -1));
     painter.setPen(Qt::white);
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+    painter.setPen(Qt::black);
     painter.drawRect(place.adjusted(1, 1, -2, -2));
 }
 
