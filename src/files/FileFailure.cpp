@@ -75,9 +75,9 @@ std::string FaultLine(const FileFailure& failure) {
 
 std::string FaultsText(const std::vector<std::string>& faults) {
     constexpr std::size_t shown = 12;
-    std::string text = "Nicht alles ist gelungen:\n";
+    std::string text;
     for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
-        text += "\n" + faults[i];
+        text += (i > 0 ? "\n" : "") + faults[i];
     if (faults.size() > shown)
         text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
     return text;
