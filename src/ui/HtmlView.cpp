@@ -40,9 +40,7 @@ bool HtmlView::PrintTo(QPagedPaintDevice& device, const Progress& progress,
     for (int done = 0; done < total; ++done) {
         if ((done > 0 && !device.newPage()) || (progress && !progress(done, total)))
             return false;
-        const int number = numbers[static_cast<std::size_t>(done)];
-        if (number <= PageCount()) // another paper may take fewer pages
-            DrawPage(painter, page_, layout_, number - 1);
+        DrawPage(painter, page_, layout_, numbers[static_cast<std::size_t>(done)] - 1);
     }
     return painter.end();
 }

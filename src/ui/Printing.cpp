@@ -77,10 +77,10 @@ private:
 
 // The numbers of the pages that were asked for in the dialog, in the order of printing.
 std::vector<int> PagesToPrint(const QPrinter& printer, int count) {
-    const int last = printer.toPage() > 0 ? std::min(printer.toPage(), count) : count;
     std::vector<int> pages;
-    for (int number = std::clamp(printer.fromPage(), 1, last); number <= last; ++number)
-        pages.push_back(number);
+    for (int number = 1; number <= count; ++number)
+        if (printer.pageRanges().isEmpty() || printer.pageRanges().contains(number))
+            pages.push_back(number);
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::reverse(pages.begin(), pages.end());
     return pages;
@@ -88,6 +88,13 @@ std::vector<int> PagesToPrint(const QPrinter& printer, int count) {
 
 QSizeF PaperInches(const QPrinter& printer) {
     return printer.pageLayout().fullRect(QPageLayout::Inch).size();
+}
+
+// Lays the page out for the printer's paper; false if the user ended it.
+bool LayOutFor(const QPrinter& printer, const PrintDesk& desk, HtmlView& page) {
+    Course course(desk, "Zeile %1 von %2 wird auf Seiten verteilt.");
+    return page.LayOutFor(PaperInches(printer),
+                          [&course](int done, int total) { return course.GoOn(done, total); });
 }
 
 bool PrintOnto(const PrintDesk& desk, HtmlView& page, QPagedPaintDevice& device,
@@ -146,17 +153,20 @@ bool PrintPage(const PrintDesk& desk, HtmlView& page) {
         desk.ShowMessage("Auf diesem Rechner ist kein Drucker eingerichtet.");
         return true;
     }
-    {
-        Course course(desk, "Zeile %1 von %2 wird auf Seiten verteilt.");
-        if (!page.LayOutFor(PaperInches(printer),
-                            [&course](int done, int total) { return course.GoOn(done, total); }))
-            return true;
-    }
+    if (!LayOutFor(printer, desk, page))
+        return true;
     QPrintDialog dialog(&printer, &desk.window);
     dialog.setObjectName("PrintDialog");
     dialog.setMinMax(1, page.PageCount());
-    if (dialog.exec() != QDialog::Accepted)
+    // Another paper takes more pages or fewer.
+    if (dialog.exec() != QDialog::Accepted || !LayOutFor(printer, desk, page))
         return true;
+    if (printer.fromPage() > page.PageCount()) {
+        desk.ShowMessage(ToAnsi(QString("Auf diesem Papier gibt es die gewählten Seiten nicht. "
+                                        "Es sind %1.")
+                                    .arg(page.PageCount())));
+        return true;
+    }
     const bool file = printer.outputFormat() == QPrinter::PdfFormat;
     return file && !printer.outputFileName().isEmpty() ? PrintToFile(desk, page, printer)
                                                        : PrintOnPaper(desk, page, printer);
