@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 
 #include <utility>
@@ -18,10 +19,12 @@ namespace emporium::ui {
 
 namespace {
 
-// The place at which the window stands in the middle of its screen together with its frame, as far
-// as the frame is known: the desktop adds it when the window is first shown.
+// The place at which the window stands in the middle of its screen together with its frame. The
+// desktop adds that when the window is first shown; until then it is taken for a usual title bar.
 QPoint CentredPlace(const QWidget& window) {
     QRect frame = window.frameGeometry();
+    if (frame == window.geometry())
+        frame.setTop(frame.top() - window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
     frame.moveCenter(window.screen()->availableGeometry().center());
     return frame.topLeft();
 }
