@@ -1,6 +1,7 @@
 // The look of the controls where the system has none of its own.
 #pragma once
 
+#include <QDialogButtonBox>
 #include <QProxyStyle>
 
 namespace emporium::ui {
@@ -11,11 +12,20 @@ class WindowStyle : public QProxyStyle {
 public:
     WindowStyle() : QProxyStyle("Fusion") {}
 
-    // Drop-down lists with a scroll bar and an end, instead of menus as high as the screen.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override {
-        return hint == SH_ComboBox_Popup ? 0
-                                         : QProxyStyle::styleHint(hint, option, widget, returned);
+        switch (hint) {
+        // Drop-down lists with a scroll bar and an end, instead of menus as high as the screen.
+        case SH_ComboBox_Popup:
+            return 0;
+        // The buttons of boxes, which some desktop's order lets vanish.
+        case SH_DialogButtonLayout:
+            return QDialogButtonBox::WinLayout;
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returned);
+        }
     }
 };
 
