@@ -36,9 +36,10 @@ QPalette LightPalette() {
     return palette;
 }
 
-// The size at which every caption and entry fits its place at scale factor 1.
-QFont WindowFont() {
-    QFont font({"Microsoft Sans Serif", "Liberation Sans", "Arial", "Sans Serif"});
+// The size at which every caption and entry fits its place at scale factor 1. The first family is one
+// that the system has: for another, Qt would search all fonts.
+QFont WindowFont(const QString& family) {
+    QFont font({family, "Arial", "Sans Serif"});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(11);
     return font;
@@ -61,7 +62,8 @@ void SetUpApplication(QApplication& application) {
     if (translator->load(":/qtbase_de.qm"))
         QApplication::installTranslator(translator);
 
-    if (!QApplication::style()->objectName().startsWith("windows")) {
+    const bool windows = QApplication::style()->objectName().startsWith("windows");
+    if (!windows) {
         QApplication::setStyle(new WindowStyle);
         // A desktop's own file dialog would speak the desktop's language.
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -69,7 +71,7 @@ void SetUpApplication(QApplication& application) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     }
     QApplication::setPalette(LightPalette());
-    QApplication::setFont(WindowFont());
+    QApplication::setFont(WindowFont(windows ? "Microsoft Sans Serif" : "Liberation Sans"));
 }
 
 } // namespace emporium::ui

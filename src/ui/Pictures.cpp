@@ -1,6 +1,5 @@
 #include "ui/Pictures.h"
 
-#include "ui/ImageFiles.h"
 #include "ui/Widgets.h"
 
 #include <QHash>
@@ -45,15 +44,15 @@ QByteArray BytesOf(const Disk& disk, const char* file) {
 } // namespace
 
 void LoadPictures(const QWidget& window, const Disk& disk) {
-    QHash<QByteArray, QImage> read;
+    QHash<QByteArray, QByteArray> read;
     for (const Shown& shown : ButtonPictures) {
         auto known = read.find(shown.file);
         if (known == read.end())
-            known = read.insert(shown.file, Decode(BytesOf(disk, shown.file)));
+            known = read.insert(shown.file, BytesOf(disk, shown.file));
         window.findChild<PictureButton*>(shown.control)->SetPicture(*known);
     }
     for (const Shown& shown : LargePictures)
-        window.findChild<Picture*>(shown.control)->SetSource(BytesOf(disk, shown.file));
+        window.findChild<Picture*>(shown.control)->SetPicture(BytesOf(disk, shown.file));
 }
 
 } // namespace emporium::ui

@@ -1,7 +1,5 @@
 #include "ui/Widgets.h"
 
-#include "ui/ImageFiles.h"
-
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QScrollBar>
@@ -26,19 +24,6 @@ void DrawFocusRing(QPainter& painter, const QRect& place) {
 }
 
 } // namespace
-
-QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget) {
-    const qreal scale = widget.devicePixelRatioF();
-    const QSize pixels = (QSizeF(size) * scale).toSize();
-    QImage fitted = image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    if (fitted.size() != pixels) // a copy takes memory of its own
-        fitted =
-            fitted.copy((fitted.width() - pixels.width()) / 2,
-                        (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
-    QPixmap pixmap = QPixmap::fromImage(fitted);
-    pixmap.setDevicePixelRatio(scale);
-    return pixmap;
-}
 
 CaptionFrame::CaptionFrame(QWidget* parent, Look look, const QString& caption)
     : QWidget(parent), look_(look), caption_(caption) {
@@ -70,13 +55,14 @@ PictureButton::PictureButton(QWidget* parent, const QString& toolTip,
     setAutoDefault(true); // Return presses it
 }
 
-void PictureButton::SetPicture(const QImage& picture) {
-    picture_ = picture;
+void PictureButton::SetPicture(const QByteArray& bytes) {
+    picture_.SetSource(bytes);
     update();
 }
 
 void PictureButton::paintEvent(QPaintEvent* event) {
-    if (picture_.isNull()) {
+    const QPixmap& picture = picture_.For(*this, size() - QSize(4, 4));
+    if (picture.isNull()) {
         QPushButton::paintEvent(event);
         return;
     }
@@ -89,7 +75,7 @@ void PictureButton::paintEvent(QPaintEvent* event) {
     painter.drawRoundedRect(outline, 3, 3);
     const int shift = isDown() ? 1 : 0;
     painter.setOpacity(isEnabled() ? 1.0 : faded);
-    painter.drawPixmap(2 + shift, 2 + shift, FitPicture(picture_, size() - QSize(4, 4), *this));
+    painter.drawPixmap(2 + shift, 2 + shift, picture);
     painter.setOpacity(1.0);
     if (isEnabled() && underMouse())
         painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor(255, 220, 120, 60));
@@ -97,22 +83,9 @@ void PictureButton::paintEvent(QPaintEvent* event) {
         DrawFocusRing(painter, rect());
 }
 
-void Picture::SetSource(QByteArray bytes) {
-    source_ = std::move(bytes);
-    fittedAt_ = 0;
+void Picture::SetPicture(const QByteArray& bytes) {
+    picture_.SetSource(bytes);
     update();
-}
-
-const QPixmap& Picture::FittedTo(QSize place) {
-    const qreal scale = devicePixelRatioF();
-    if (fittedAt_ != scale || place != fitted_.deviceIndependentSize().toSize()) {
-        const QImage image = source_.isEmpty() || (fittedAt_ == scale && fitted_.isNull())
-                                 ? QImage()
-                                 : DecodeFor(source_, (QSizeF(place) * scale).toSize());
-        fitted_ = image.isNull() ? QPixmap() : FitPicture(image, place, *this);
-        fittedAt_ = scale;
-    }
-    return fitted_;
 }
 
 void Picture::paintEvent(QPaintEvent*) {

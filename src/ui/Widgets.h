@@ -1,9 +1,9 @@
 // The window's own kinds of controls: frames with a caption, picture buttons and drop-down lists.
 #pragma once
 
-#include <QByteArray>
+#include "ui/FittedPicture.h"
+
 #include <QComboBox>
-#include <QImage>
 #include <QPushButton>
 
 namespace emporium::ui {
@@ -24,10 +24,6 @@ template <typename Widget> Widget* Place(Widget* widget, int left, int top, int 
     widget->setGeometry(Px(left), Px(top), Px(width), Px(height));
     return widget;
 }
-
-/// An image for a place of that size, sharp at the widget's scale. Fills the place, cut at the
-/// edges if the proportions differ.
-QPixmap FitPicture(const QImage& image, QSize size, const QWidget& widget);
 
 /// A frame whose caption stands in its upper edge.
 class CaptionFrame : public QWidget {
@@ -55,16 +51,17 @@ class PictureButton : public QPushButton {
 public:
     PictureButton(QWidget* parent, const QString& toolTip, const QString& textWithoutPicture);
 
-    void SetPicture(const QImage& picture);
+    /// The bytes of an image file.
+    void SetPicture(const QByteArray& bytes);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QImage picture_;
+    FittedPicture picture_;
 };
 
-/// An image that fills a place. It is decoded when it is painted first, at the screen's scale.
+/// An image that fills a place.
 class Picture : public QWidget {
     Q_OBJECT
 
@@ -72,18 +69,16 @@ public:
     using QWidget::QWidget;
 
     /// The bytes of an image file.
-    void SetSource(QByteArray bytes);
+    void SetPicture(const QByteArray& bytes);
 
     /// The image as it fills a place of that size; null if there is none.
-    const QPixmap& FittedTo(QSize place);
+    const QPixmap& FittedTo(QSize place) { return picture_.For(*this, place); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QByteArray source_;
-    QPixmap fitted_;
-    qreal fittedAt_ = 0; // the scale; 0 before it is decoded
+    FittedPicture picture_;
 };
 
 /// A drop-down list without text entry. The wheel changes nothing while it is closed.
