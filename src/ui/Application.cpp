@@ -36,8 +36,8 @@ QPalette LightPalette() {
     return palette;
 }
 
-// The size at which every caption and entry fits its place at scale factor 1. The first family is one
-// that the system has: for another, Qt would search all fonts.
+// The size at which every caption and entry fits its place at scale factor 1. The first family is
+// one that the system has: for another, Qt would search all fonts.
 QFont WindowFont(const QString& family) {
     QFont font({family, "Arial", "Sans Serif"});
     font.setStyleHint(QFont::SansSerif);
