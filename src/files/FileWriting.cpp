@@ -5,6 +5,7 @@
 #include "files/Temporaries.h"
 
 #include <algorithm>
+#include <span>
 
 namespace emporium {
 
@@ -72,7 +73,7 @@ std::error_code PrepareStep(const FileLayer& files, const FileChange& change, bo
     return error;
 }
 
-std::optional<FileFailure> Prepare(const FileLayer& files, const std::vector<FileChange>& changes,
+std::optional<FileFailure> Prepare(const FileLayer& files, std::span<const FileChange> changes,
                                    std::vector<Step>& steps) {
     for (const FileChange& change : changes) {
         Step step;
@@ -94,7 +95,7 @@ std::error_code Apply(const FileLayer& files, const Step& step) {
 // user that nothing was written.
 WriteResult WriteSingle(const FileLayer& files, const FileChange& change) {
     std::vector<Step> steps;
-    if (auto failure = Prepare(files, {change}, steps))
+    if (auto failure = Prepare(files, {&change, 1}, steps))
         return {false, failure};
     if (const auto error = Apply(files, steps.front())) {
         RemoveTemporaries(files, steps);
@@ -181,7 +182,7 @@ bool IsRefusal(const std::error_code& error) {
 } // namespace
 
 WriteResult WriteFiles(const FileLayer& files, const fs::path& folder,
-                       std::vector<FileChange> changes) {
+                       const std::vector<FileChange>& changes) {
     const fs::path journal = folder / JournalName;
     if (files.status(journal).kind != FileStatus::Kind::Absent)
         return {false,

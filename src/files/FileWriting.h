@@ -29,7 +29,7 @@ struct [[nodiscard]] WriteResult {
 /// permissions kept. What is a link, a folder, a pipe or write-protected is refused, and so are two
 /// changes that lead to one file, and everything while a journal stands in the folder.
 WriteResult WriteFiles(const FileLayer& files, const std::filesystem::path& folder,
-                       std::vector<FileChange> changes);
+                       const std::vector<FileChange>& changes);
 
 /// Writes a file where the user wants it; links are followed. In a folder that may not be written,
 /// a file that may is written in its place, which an interruption can spoil.

@@ -90,7 +90,7 @@ void SaveOutsideView(ItemEditor& editor, const Platform& platform, const ItemRec
         if (auto refusal = AppendTo(disk, editor.cmbItemKategorien.Text(), record, changes);
             !refusal.empty())
             return {false, std::move(refusal)};
-        return WriteChanges(disk, std::move(changes), SavingWords.failed);
+        return WriteChanges(disk, changes, SavingWords.failed);
     });
     if (!outcome.text.empty())
         platform.ShowMessage(outcome.text);

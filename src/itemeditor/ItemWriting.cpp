@@ -89,11 +89,12 @@ Outcome CompareAndWrite(ItemEditor& editor, const Disk& disk, const RowChange& c
     std::vector<FileChange> changes;
     if (auto refusal = more ? more(changes) : std::string(); !refusal.empty())
         return {false, std::move(refusal)};
-    auto text = std::make_shared<const std::string>(FileTextWith(editor, *file.bytes, change));
-    changes.push_back({CategoryPath(disk.folders, file.name), *text});
-    Outcome outcome = WriteChanges(disk, std::move(changes), words.failed);
+    changes.push_back(
+        {CategoryPath(disk.folders, file.name), FileTextWith(editor, *file.bytes, change)});
+    Outcome outcome = WriteChanges(disk, changes, words.failed);
     if (outcome.stands)
-        TakeOver(editor, change, std::move(text));
+        TakeOver(editor, change,
+                 std::make_shared<const std::string>(std::move(*changes.back().contents)));
     return outcome;
 }
 

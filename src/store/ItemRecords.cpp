@@ -4,7 +4,6 @@
 #include "text/LineEnds.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace emporium {
 
@@ -17,26 +16,34 @@ std::string RecordText(const RecordView& record, std::string_view lineEnd) {
     return text;
 }
 
+// The place behind the record's last line.
+std::size_t EndOf(const RecordView& record, std::string_view bytes) {
+    const std::string_view last = record.back();
+    const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
+    return std::min(bytes.find('\n', lastEnd), bytes.size() - 1) + 1;
+}
+
 // The bytes up to the end of the last whole record; empty lines behind it hold nothing.
 std::string_view WholeRecords(std::string_view bytes) {
+    const auto ends = bytes.substr(bytes.find_last_not_of("\r\n") + 1);
+    if (ends.size() < bytes.size() && std::count(ends.begin(), ends.end(), '\n') < 2)
+        return bytes; // a record's line is the last one, so that none have to be counted
     RecordReader reader(bytes);
     std::size_t end = 0;
-    for (RecordView record; reader.Next(record);) {
-        const std::string_view last = record.back();
-        const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
-        end = std::min(bytes.find('\n', lastEnd), bytes.size()) + 1;
-    }
+    for (RecordView record; reader.Next(record);)
+        end = EndOf(record, bytes);
     return bytes.substr(0, end);
 }
 
-// The bytes before the record, and those behind the end of its last line.
-std::pair<std::string_view, std::string_view> AroundRecord(std::string_view bytes,
-                                                           const RecordView& place) {
-    const std::string_view last = place.back();
+// The text with others in the place of the record's lines.
+std::string WithLinesAt(std::string_view bytes, const RecordView& place, std::string_view lines) {
+    bytes = WholeRecords(bytes);
     const auto begin = static_cast<std::size_t>(place.front().data() - bytes.data());
-    const auto lastEnd = static_cast<std::size_t>(last.data() + last.size() - bytes.data());
-    const auto end = bytes.find('\n', lastEnd);
-    return {bytes.substr(0, begin), end == bytes.npos ? "" : bytes.substr(end + 1)};
+    const auto end = EndOf(place, bytes);
+    std::string text;
+    text.reserve(begin + lines.size() + bytes.size() - end);
+    text.append(bytes.substr(0, begin)).append(lines).append(bytes.substr(end));
+    return text;
 }
 
 } // namespace
@@ -64,11 +71,12 @@ bool HasMark(const RecordView& record, ItemField field) {
 }
 
 bool RecordReader::Next(RecordView& record) {
-    for (std::size_t field = 0; field < record.size(); ++field) {
-        if (!lines_.Next(record[field]))
+    for (auto line = record.begin(); line != record.end(); ++line)
+        if (!lines_.Next(*line)) {
+            cutOff_ = std::any_of(record.begin(), line,
+                                  [](std::string_view field) { return !field.empty(); });
             return false;
-        cutOff_ = (cutOff_ || !record[field].empty()) && field + 1 < record.size();
-    }
+        }
     return true;
 }
 
@@ -83,13 +91,11 @@ std::string WithRecords(std::string_view bytes, const std::vector<ItemRecord>& r
 
 std::string WithRecordAt(std::string_view bytes, const RecordView& place,
                          const ItemRecord& record) {
-    const auto [before, behind] = AroundRecord(WholeRecords(bytes), place);
-    return std::string(before) + RecordText(ViewOf(record), LineEndOf(bytes)) + std::string(behind);
+    return WithLinesAt(bytes, place, RecordText(ViewOf(record), LineEndOf(bytes)));
 }
 
 std::string WithoutRecordAt(std::string_view bytes, const RecordView& place) {
-    const auto [before, behind] = AroundRecord(WholeRecords(bytes), place);
-    return std::string(before) + std::string(behind);
+    return WithLinesAt(bytes, place, "");
 }
 
 } // namespace emporium

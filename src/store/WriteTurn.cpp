@@ -43,8 +43,9 @@ Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work) {
     return outcome;
 }
 
-Outcome WriteChanges(const Disk& disk, std::vector<FileChange> changes, std::string_view what) {
-    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), std::move(changes));
+Outcome WriteChanges(const Disk& disk, const std::vector<FileChange>& changes,
+                     std::string_view what) {
+    const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), changes);
     if (!result.failure)
         return {true, {}};
     if (result.stands)

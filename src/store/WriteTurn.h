@@ -25,7 +25,8 @@ Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work);
 
 /// Writes files of the categories' folder, see WriteFiles; the caller has the turn. `what` begins
 /// the text of a failure: what could not be done.
-Outcome WriteChanges(const Disk& disk, std::vector<FileChange> changes, std::string_view what);
+Outcome WriteChanges(const Disk& disk, const std::vector<FileChange>& changes,
+                     std::string_view what);
 
 /// Finishes an interrupted write before its files are read, if there is one; a line for the user if
 /// that can't be done yet, and what is read may be out of date.
