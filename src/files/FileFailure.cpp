@@ -25,8 +25,8 @@ std::string ReasonText(const std::error_code& reason) {
         "Der Datenträger oder das Netzlaufwerk ist nicht erreichbar."_ansi;
     static constexpr std::array<Known, 29> known = {{
         {std::errc::no_space_on_device, "Auf dem Datenträger ist kein Platz mehr."_ansi},
-        {std::errc::permission_denied, "Der Zugriff wurde verweigert, oder die Datei ist "
-                                       "schreibgeschützt oder gerade in Gebrauch."_ansi},
+        {std::errc::permission_denied, "Der Zugriff wurde verweigert: Die Datei oder ihr "
+                                       "Ordner ist schreibgeschützt oder in Gebrauch."_ansi},
         {std::errc::operation_not_permitted, "Der Zugriff wurde verweigert."},
         {std::errc::read_only_file_system, "Der Datenträger ist schreibgeschützt."_ansi},
         {std::errc::io_error, "Beim Lesen oder Schreiben ist ein Fehler aufgetreten."},
