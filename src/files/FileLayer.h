@@ -115,6 +115,9 @@ std::filesystem::path RunningProgramFolder();
 inline constexpr std::size_t LargestFile = std::size_t{1} << 28U;
 inline constexpr std::size_t LargestList = std::size_t{1} << 24U;
 
+/// The file in the folder that bears the lock, as long as it is held.
+inline constexpr const char* LockName = "Schreibsperre.orvan-lock";
+
 /// How long `lock` waits, and how long it sleeps between two tries.
 inline constexpr int LockMilliseconds = 3000;
 inline constexpr int LockPauseMilliseconds = 10;

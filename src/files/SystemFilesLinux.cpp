@@ -18,7 +18,7 @@ using Path = FileLayer::Path;
 using Handle = FileLayer::Handle;
 
 // What a call of the system came to. A quota that is used up is a full disk to its user.
-std::error_code Outcome(ssize_t result) {
+std::error_code ErrorOf(ssize_t result) {
     if (result >= 0)
         return {};
     return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
@@ -53,7 +53,7 @@ FileText ReadOpened(int descriptor, std::size_t largest) {
         if (size == bytes.size())
             bytes.resize(size + chunk);
     }
-    if (const auto error = Outcome(got))
+    if (const auto error = ErrorOf(got))
         return Unreadable(error);
     bytes.resize(size);
     return {FileText::State::Whole, std::move(bytes), {}};
@@ -71,7 +71,7 @@ std::error_code WhyUnknown(std::error_code error) {
 FileText Read(const Path& file, std::size_t largest) {
     // Without O_NONBLOCK a pipe in the file's place would hold the program up for ever.
     const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (const auto error = Outcome(descriptor)) {
+    if (const auto error = ErrorOf(descriptor)) {
         const auto reason = WhyUnknown(error);
         return reason ? Unreadable(reason) : FileText();
     }
@@ -93,7 +93,7 @@ FileStatus StatusOf(const Path& path) {
     constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
     FileStatus result;
     struct stat status {};
-    if (const auto error = Outcome(::lstat(path.c_str(), &status))) {
+    if (const auto error = ErrorOf(::lstat(path.c_str(), &status))) {
         result.reason = WhyUnknown(error);
         return result;
     }
@@ -125,7 +125,7 @@ bool SameFile(const Path& one, const Path& other) {
 std::error_code OpenToWrite(const Path& file, int flags, Handle& handle) {
     constexpr mode_t mode = 0666;
     handle = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, mode);
-    return Outcome(handle);
+    return ErrorOf(handle);
 }
 
 std::error_code CreateNew(const Path& file, Handle& handle) {
@@ -139,30 +139,30 @@ std::error_code Overwrite(const Path& file, Handle& handle) {
 std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) {
     const ssize_t count = ::write(static_cast<int>(handle), bytes.data(), bytes.size());
     written = static_cast<std::size_t>(count);
-    return Outcome(count);
+    return ErrorOf(count);
 }
 
 std::error_code Flush(Handle handle) {
-    return Outcome(::fsync(static_cast<int>(handle)));
+    return ErrorOf(::fsync(static_cast<int>(handle)));
 }
 
 std::error_code Close(Handle handle) {
-    return Outcome(::close(static_cast<int>(handle)));
+    return ErrorOf(::close(static_cast<int>(handle)));
 }
 
 std::error_code CopyMode(const Path& from, const Path& to) {
     struct stat status {};
-    if (const auto error = Outcome(::stat(from.c_str(), &status)))
+    if (const auto error = ErrorOf(::stat(from.c_str(), &status)))
         return error;
-    return Outcome(::chmod(to.c_str(), status.st_mode & 07777U));
+    return ErrorOf(::chmod(to.c_str(), status.st_mode & 07777U));
 }
 
 std::error_code Rename(const Path& from, const Path& to) {
-    return Outcome(std::rename(from.c_str(), to.c_str()));
+    return ErrorOf(std::rename(from.c_str(), to.c_str()));
 }
 
 std::error_code Remove(const Path& file) {
-    return Unless(std::errc::no_such_file_or_directory, Outcome(::unlink(file.c_str())));
+    return Unless(std::errc::no_such_file_or_directory, ErrorOf(::unlink(file.c_str())));
 }
 
 int OpenFolder(const Path& folder) {
@@ -172,7 +172,7 @@ int OpenFolder(const Path& folder) {
 // Some network disks know no flushing of folders: what they promise has to do.
 std::error_code FlushFolder(const Path& folder) {
     const int descriptor = OpenFolder(folder);
-    if (const auto error = Outcome(descriptor))
+    if (const auto error = ErrorOf(descriptor))
         return error;
     const std::error_code error = Flush(descriptor);
     ::close(descriptor);
@@ -181,19 +181,18 @@ std::error_code FlushFolder(const Path& folder) {
 
 std::error_code CreateFolder(const Path& folder) {
     constexpr mode_t mode = 0777;
-    return Unless(std::errc::file_exists, Outcome(::mkdir(folder.c_str(), mode)));
+    return Unless(std::errc::file_exists, ErrorOf(::mkdir(folder.c_str(), mode)));
 }
 
 std::shared_ptr<void> Keep(int descriptor) {
     return {nullptr, [descriptor](void*) { ::close(descriptor); }};
 }
 
-// Two kinds of locks that do not know each other: all copies share one on the folder's bytes as
-// their mark, and the one that writes holds the folder itself. Neither leaves a file behind,
-// whatever ends the program. Who marks first and looks then is seen by everyone who comes later.
+// All copies share a lock on the folder's bytes as their mark, which leaves no file behind. Who
+// marks first and looks then is seen by everyone who comes later.
 FolderClaim Claim(const Path& folder) {
     const int descriptor = OpenFolder(folder);
-    if (Outcome(descriptor))
+    if (ErrorOf(descriptor))
         return {};
     struct flock mark {};
     mark.l_type = F_RDLCK;
@@ -204,17 +203,40 @@ FolderClaim Claim(const Path& folder) {
     return {asked && others.l_type != F_UNLCK, Keep(descriptor)};
 }
 
-std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
-    const int descriptor = OpenFolder(folder);
-    if (const auto error = Outcome(descriptor))
+// False for a file that its last holder has removed.
+bool StillStands(int descriptor, const Path& file) {
+    struct stat opened {};
+    struct stat standing {};
+    return ::fstat(descriptor, &opened) == 0 && ::lstat(file.c_str(), &standing) == 0 &&
+           opened.st_dev == standing.st_dev && opened.st_ino == standing.st_ino;
+}
+
+// Network disks lock a file for all machines, but a folder for each alone.
+std::error_code TryToLock(const Path& file, std::shared_ptr<void>& held) {
+    Handle handle = 0;
+    if (const auto error = OpenToWrite(file, O_CREAT | O_NOFOLLOW | O_NONBLOCK, handle))
         return error;
-    lock = Keep(descriptor);
-    for (int waited = 0; waited < LockMilliseconds; waited += LockPauseMilliseconds) {
-        if (Outcome(::flock(descriptor, LOCK_EX | LOCK_NB)) != std::errc::operation_would_block)
-            return {}; // locked, or a disk that knows no locks
+    const int descriptor = static_cast<int>(handle);
+    held = Keep(descriptor);
+    const auto error = ErrorOf(::flock(descriptor, LOCK_EX | LOCK_NB));
+    const bool taken = error == std::errc::operation_would_block;
+    return taken || !StillStands(descriptor, file)
+               ? std::make_error_code(std::errc::device_or_resource_busy)
+               : std::error_code(); // locked, or on a disk that knows no locks
+}
+
+std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
+    const Path file = folder / LockName;
+    std::shared_ptr<void> held;
+    std::error_code error = TryToLock(file, held);
+    for (int waited = 0; error == std::errc::device_or_resource_busy && waited < LockMilliseconds;
+         waited += LockPauseMilliseconds) {
         std::this_thread::sleep_for(std::chrono::milliseconds(LockPauseMilliseconds));
+        error = TryToLock(file, held);
     }
-    return std::make_error_code(std::errc::device_or_resource_busy);
+    if (!error)
+        lock = {nullptr, [held, file](void*) { ::unlink(file.c_str()); }};
+    return error;
 }
 
 } // namespace

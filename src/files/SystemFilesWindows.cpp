@@ -146,7 +146,7 @@ FolderClaim Claim(const Path& folder) {
 
 // A folder can't be locked here; a file in it can, and goes with its last handle.
 std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
-    const std::wstring file = SystemPath(folder / L"Schreibsperre.orvan-lock");
+    const std::wstring file = SystemPath(folder / LockName);
     for (int waited = 0;; waited += LockPauseMilliseconds) {
         HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_ALWAYS,
                                     FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
