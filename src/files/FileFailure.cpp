@@ -38,7 +38,8 @@ std::string ReasonText(const std::error_code& reason) {
         {std::errc::is_a_directory, "An dieser Stelle liegt ein Ordner."},
         {std::errc::operation_not_supported, noFile},
         {std::errc::no_such_device_or_address, noFile}, // a socket
-        {std::errc::too_many_symbolic_link_levels, "Die Verknüpfung führt im Kreis."_ansi},
+        {std::errc::too_many_symbolic_link_levels,
+         "Die Verknüpfung führt im Kreis oder darf hier nicht stehen."_ansi},
         {std::errc::filename_too_long, "Der Name ist zu lang."},
         {std::errc::file_too_large, "Die Datei ist zu groß."_ansi},
         {std::errc::invalid_argument, "Diesen Namen kann keine Datei tragen."},
