@@ -28,7 +28,7 @@ public:
         std::string bytes, flushed; // of a link: where it leads
         bool writable = true;
     };
-    using Names = std::map<std::string, int>;
+    using Names = std::map<std::u8string, std::size_t>;
 
     MemoryDisk() {
         for (const auto& folder :
@@ -46,7 +46,7 @@ public:
     Names names, flushedNames; // by path
 
     Node& Put(const Path& path, std::string bytes, Kind kind = Kind::File) {
-        names[path.string()] = flushedNames[path.string()] = static_cast<int>(nodes.size());
+        names[path.generic_u8string()] = flushedNames[path.generic_u8string()] = nodes.size();
         nodes.push_back({kind, bytes, bytes, true});
         return nodes.back();
     }
@@ -60,7 +60,7 @@ public:
         return node ? node->bytes : "(absent)";
     }
     void Remove(std::string_view name) {
-        names.erase((folders.DataFolder / ToPath(name)).string());
+        names.erase((folders.DataFolder / ToPath(name)).generic_u8string());
     }
 
     /// What a new start finds, with nothing failing.
@@ -106,12 +106,12 @@ public:
                 return std::make_error_code(std::errc::no_such_file_or_directory);
             if (!Find(file.parent_path())->writable)
                 return std::make_error_code(std::errc::permission_denied);
-            handle = names[file.string()] = static_cast<int>(nodes.size());
+            handle = static_cast<Handle>(names[file.generic_u8string()] = nodes.size());
             nodes.emplace_back();
             return std::error_code();
         };
         files.overwrite = [this](const Path& file, Handle& handle) {
-            handle = names.at(file.string());
+            handle = static_cast<Handle>(names.at(file.generic_u8string()));
             nodes[static_cast<std::size_t>(handle)].bytes.clear();
             return Count();
         };
@@ -133,13 +133,13 @@ public:
         files.rename = [this](const Path& from, const Path& to) {
             const auto error = Count();
             if (!error)
-                names[to.string()] = names.extract(from.string()).mapped();
+                names[to.generic_u8string()] = names.extract(from.generic_u8string()).mapped();
             return error;
         };
         files.remove = [this](const Path& file) {
             const auto error = Count();
             if (!error)
-                names.erase(file.string());
+                names.erase(file.generic_u8string());
             return error;
         };
         files.flushFolder = [this](const Path& folder) { return FlushFolder(folder); };
@@ -163,8 +163,8 @@ public:
 
 private:
     const Node* Find(const Path& path) const {
-        const auto found = names.find(path.string());
-        return found == names.end() ? nullptr : &nodes[static_cast<std::size_t>(found->second)];
+        const auto found = names.find(path.generic_u8string());
+        return found == names.end() ? nullptr : &nodes[found->second];
     }
 
     std::error_code Count() {
