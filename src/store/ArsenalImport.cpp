@@ -133,10 +133,8 @@ void RenameOldFile(const Disk& disk, std::string_view name, std::vector<std::str
     if (!FileExists(disk.files, older))
         return;
     const FileText text = disk.files.read(older, LargestFile);
-    if (text.state == FileText::State::Absent)
-        return;
     if (!text.IsWhole()) {
-        faults.push_back(FaultLine({older, text.reason}));
+        faults.push_back(FaultLine({older, ReasonOf(text)}));
         return;
     }
     const auto result =

@@ -24,6 +24,13 @@ TEST(ItemForm, NumbersTakeOneSignAtTheStartAndOneSeparatorBehindIt) {
                 << c.key << " into " << c.text << " at " << c.caret;
         EXPECT_TRUE(FilterItemKey(NameText, c.key, c.text, c.caret));
     }
+    for (const ItemText field : {WeightText, PriceText}) {
+        EXPECT_EQ(FilterItemPaste(field, " 2,5\t", "1", 1, 0), "2,5");
+        EXPECT_EQ(FilterItemPaste(field, "2,5", "1,5", 0, 3), "2,5") << "in its place";
+        EXPECT_EQ(FilterItemPaste(field, "2,5", "1,5", 0, 1), "");
+        EXPECT_EQ(FilterItemPaste(field, "2x", "", 0, 0), "");
+    }
+    EXPECT_EQ(FilterItemPaste(NameText, " 2x ", "-1", 1, 0), " 2x ");
 }
 
 TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
@@ -72,7 +79,8 @@ TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
     editor.lstVerfügbar.Select(1);
     MoveRegionOut(editor);
     MoveRegionOut(editor);
-    EXPECT_TRUE(RecordOfForm(editor)[AvailabilityField].starts_with("BO|FI|")) << "moves once";
+    EXPECT_TRUE(RecordOfForm(editor)[AvailabilityField].starts_with("BO|FI|"));
+    EXPECT_EQ(editor.lstRegionen.Entries(), std::vector<std::string>{"EL"}) << "moves once";
 }
 
 } // namespace

@@ -70,7 +70,7 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     RecoverShopRow(shop, script.platform);
     EXPECT_EQ(Rows(), (Texts{"Seil 5H"}));
     ClearShop(shop);
-    EXPECT_EQ(shop.lvLaden.current, -1);
+    EXPECT_TRUE(shop.lvLaden.current == -1 && !shop.cmdShopDelete.enabled);
     while (!ShopIsFull(shop))
         shop.lvLaden.rows.push_back(MakeShopRow(items.Record(0)));
     script.ExpectMessage("Der Laden ist voll");
