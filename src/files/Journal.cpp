@@ -49,12 +49,12 @@ std::string FingerprintText(const std::optional<Fingerprint>& print) {
                  : "-\n-\n";
 }
 
-// False for lines that are neither two numbers nor two times "-", which is none.
+// Nothing behind a "-"; false for lines that are neither that nor two numbers.
 bool ReadFingerprint(LineReader& lines, std::optional<Fingerprint>& print) {
     std::string_view length, checksum;
     lines.Next(length);
     lines.Next(checksum);
-    if (length == "-" && checksum == "-")
+    if (length == "-")
         return true;
     const auto first = ReadNumber(length);
     const auto second = ReadNumber(checksum);

@@ -35,8 +35,6 @@ void AddToView(ItemEditor& editor, const std::string& name, const CategoryFile& 
 std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& platform,
                                      std::vector<std::string>& faults) {
     const std::string chosen = editor.cmbKategorien.Text();
-    if (chosen.empty())
-        return {};
     if (chosen != AllCategories)
         return {chosen};
     CategoryList list = ReadCategoryNames(platform.disk);
