@@ -57,12 +57,11 @@ std::optional<double> ReadGermanNumber(std::string_view text) {
 
 std::int16_t RoundToInt16(double number) {
     using Limits = std::numeric_limits<std::int16_t>;
-    const double whole = number - std::remainder(number, 1.0);
     if (!(number < Limits::max()))
         return Limits::max();
     if (number <= Limits::min())
         return Limits::min();
-    return static_cast<std::int16_t>(whole);
+    return static_cast<std::int16_t>(std::nearbyint(number));
 }
 
 std::string GermanNumberText(double value) {

@@ -10,7 +10,12 @@ namespace emporium {
 
 namespace {
 
-using Weights = std::array<std::string_view, 256>;
+// What a character counts as: one letter or two.
+struct Weight {
+    char first = 0;
+    char second = 0;
+};
+using Weights = std::array<Weight, 256>;
 
 struct Equivalents {
     std::string_view characters;
@@ -34,30 +39,29 @@ constexpr std::array<Equivalents, 14> Letters = {{
     {"Œœ"_ansi, "oe"},
 }};
 
-constexpr auto AllBytes = [] {
-    std::array<char, 256> bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<char>(i >= 'A' && i <= 'Z' ? i + 0x20U : i);
-    return bytes;
-}();
-
 constexpr Weights PrimaryWeights = [] {
     Weights weights{};
     for (std::size_t i = 0; i < weights.size(); ++i)
-        weights[i] = std::string_view(&AllBytes[i], 1);
+        weights[i].first = static_cast<char>(i >= 'A' && i <= 'Z' ? i + 0x20U : i);
     for (const auto& letter : Letters)
         for (const char c : letter.characters)
-            weights[static_cast<unsigned char>(c)] = letter.base;
+            weights[static_cast<unsigned char>(c)] = {
+                letter.base[0], letter.base.size() > 1 ? letter.base[1] : '\0'};
     return weights;
 }();
 
 std::string SortKey(std::string_view text) {
-    std::string key;
-    key.reserve(2 * text.size() + 1);
-    for (const char c : text)
-        key += PrimaryWeights[static_cast<unsigned char>(c)];
-    key += '\0';
-    return key.append(text);
+    std::string key(3 * text.size() + 1, '\0');
+    char* end = key.data();
+    for (const char c : text) {
+        const auto [first, second] = PrimaryWeights[static_cast<unsigned char>(c)];
+        *end++ = first;
+        if (second)
+            *end++ = second;
+    }
+    end = std::copy(text.begin(), text.end(), end + 1);
+    key.resize(static_cast<std::size_t>(end - key.data()));
+    return key;
 }
 
 } // namespace
