@@ -50,33 +50,42 @@ constexpr Weights PrimaryWeights = [] {
     return weights;
 }();
 
-std::string SortKey(std::string_view text) {
-    std::string key(3 * text.size() + 1, '\0');
-    char* end = key.data();
+// Bytes in whose order the text stands.
+void AppendSortKey(std::string& keys, std::string_view text) {
+    const std::size_t begin = keys.size();
+    keys.resize(begin + 3 * text.size() + 1);
+    char* end = keys.data() + begin;
     for (const char c : text) {
         const auto [first, second] = PrimaryWeights[static_cast<unsigned char>(c)];
         *end++ = first;
         if (second)
             *end++ = second;
     }
-    end = std::copy(text.begin(), text.end(), end + 1);
-    key.resize(static_cast<std::size_t>(end - key.data()));
-    return key;
+    *end++ = '\0';
+    end = std::copy(text.begin(), text.end(), end);
+    keys.resize(static_cast<std::size_t>(end - keys.data()));
 }
 
 } // namespace
 
 bool GermanLess(std::string_view left, std::string_view right) {
-    return SortKey(left) < SortKey(right);
+    std::string a, b;
+    AppendSortKey(a, left);
+    AppendSortKey(b, right);
+    return a < b;
 }
 
 std::vector<int> GermanOrderOf(std::size_t count, bool descending,
                                const std::function<std::string_view(std::size_t)>& textAt) {
-    std::vector<std::string> keys(count);
-    for (std::size_t i = 0; i < count; ++i)
-        keys[i] = SortKey(textAt(i));
-    const auto key = [&keys](int i) -> const std::string& {
-        return keys[static_cast<std::size_t>(i)];
+    std::string keys; // all in one piece, so that they lie close together
+    std::vector<std::size_t> bounds(count + 1);
+    for (std::size_t i = 0; i < count; ++i) {
+        AppendSortKey(keys, textAt(i));
+        bounds[i + 1] = keys.size();
+    }
+    const auto key = [&](int i) {
+        const auto row = static_cast<std::size_t>(i);
+        return std::string_view(keys.data() + bounds[row], bounds[row + 1] - bounds[row]);
     };
     std::vector<int> order(count);
     std::iota(order.begin(), order.end(), 0);
