@@ -87,6 +87,7 @@ void MainWindow::ConnectPlatform(const std::filesystem::path& programFolder) {
         session_.mirror.Update();
         generator_->move(CentredPlace(*generator_));
         generator_->findChild<QWidget*>("cmbShopBeruf")->setFocus(); // wherever it was last time
+        findChild<QWidget*>("cmdShopGenerator")->setFocus();         // the shop's fields come next
         generator_->exec();
     };
     platform.FocusItemName = [this] { itemEditor_->FocusName(); };
@@ -102,12 +103,15 @@ MainWindow::~MainWindow() {
 
 void MainWindow::BuildModes() {
     auto& state = session_.state;
-    BuildButton(session_, controls_, "cmdItemEditor", 0, 0, "ItemEditor", "I",
-                [&state] { ShowItemEditor(state); });
-    BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S",
-                [&state] { ShowShopEditor(state); });
-    BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?",
-                [this] { OpenHelp(session_.platform); });
+    BuildButton(session_, controls_, "cmdItemEditor", 0, 0, "ItemEditor", "I", [&state] {
+        ShowItemEditor(state);
+    })->setShortcut(Qt::Key_F2);
+    BuildButton(session_, controls_, "cmdShopEditor", 360, 0, "ShopEditor", "S", [&state] {
+        ShowShopEditor(state);
+    })->setShortcut(Qt::Key_F3);
+    BuildButton(session_, controls_, "cmdHelp", 9120, 0, "Hilfe", "?", [this] {
+        OpenHelp(session_.platform);
+    })->setShortcut(Qt::Key_F1);
 }
 
 void MainWindow::MirrorWindow() {

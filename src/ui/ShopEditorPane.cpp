@@ -115,8 +115,9 @@ void ShopEditorPane::BuildButtons(CaptionFrame* frame) {
                           [&shop](std::string& document) { WriteShopPrint(shop, document); });
     });
     build("cmdShopExport", "HTML-Export", "H", 2280, [&] { ExportShop(shop, platform); });
-    build("cmdShopGenerator", "Shopgenerator", "W", 2640,
-          [&] { OpenGenerator(state.generator, shop, platform); });
+    build("cmdShopGenerator", "Shopgenerator", "W", 2640, [&] {
+        OpenGenerator(state.generator, shop, platform);
+    })->setShortcut(Qt::Key_F5);
     session_.mirror.Bind(quantity, shop.cmdShopAnzahl, list_);
     session_.mirror.Bind(remove, shop.cmdShopDelete, list_);
 }
