@@ -125,7 +125,8 @@ TEST(FileWriting, WhatStandsInTheWayIsRefused) {
     disk.Put(here.folder / "link.dat", "/fremd/ziel.dat", FileStatus::Kind::Link);
     disk.Put(here.folder / "pipe.dat", "", FileStatus::Kind::Other);
     disk.Put(here.folder / "ordner.dat", "", FileStatus::Kind::Folder);
-    disk.names[(here.folder / "e.dat").string()] = disk.names[(here.folder / "a.dat").string()];
+    disk.names[(here.folder / "e.dat").generic_u8string()] =
+        disk.names[(here.folder / "a.dat").generic_u8string()];
     const State before = here.Look();
     for (const Changes& changes : {Changes{{"a.dat", "neu"}, {"b.dat", "neu"}},
                                    {{"a.dat", "neu"}, {"b.dat", std::nullopt}},
