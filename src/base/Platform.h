@@ -52,8 +52,8 @@ struct Platform {
     struct {
         std::function<void(bool visible)> SetVisible;
 
-        /// Begins to load the file; the window's PreviewReady tells when it is there. False if it
-        /// can't be read.
+        /// Begins to load the file; ReportPage is called when it is there. False if it can't be
+        /// read.
         std::function<bool(const std::filesystem::path& file)> Navigate;
 
         /// Opens the print dialog for the loaded page and prints. False if printing failed; a

@@ -57,6 +57,10 @@ std::string Print(PrintHost& host, const Platform& platform, const DocumentWrite
 
 } // namespace
 
+void ReportPage(PrintHost& host) {
+    host.PreviewReady = true;
+}
+
 void PrintTempDocument(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
     if (host.busy)
         return;

@@ -19,6 +19,9 @@ struct PrintHost {
 /// Appends the document to the text.
 using DocumentWriter = std::function<void(std::string& document)>;
 
+/// The HTML view reports that it has loaded the page.
+void ReportPage(PrintHost& host);
+
 /// Prints the document that the writer makes. If the file can't be written, the page does not load
 /// in time or the printer fails, a box says so; the editors stay as they are. Ends quietly if the
 /// window is closed meanwhile. While a print is busy, a second one does nothing.

@@ -52,7 +52,7 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
 
     ConnectPlatform(programFolder);
     connect(browser_, &HtmlView::navigateComplete, this,
-            [this] { session_.state.print.PreviewReady = true; });
+            [this] { session_.Do([this] { ReportPage(session_.state.print); }); });
     session_.mirror.Bind([this] { MirrorWindow(); });
     session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
     LoadPictures(*this, session_.platform.disk);

@@ -161,7 +161,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
                  {"", notWritten, 5}};
     for (const auto& c : cases) {
         MemoryDisk disk;
-        disk.names.erase(disk.folders.TempFolder.generic_u8string()); // made when needed
+        disk.names.erase(disk.folders.TempFolder.string()); // made when it is needed
         disk.failing = {c.failing};
         ScriptedPlatform script{disk.folders};
         script.platform.disk.files = disk.Files();
@@ -185,7 +185,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
         };
         if (!c.box.empty())
             script.ExpectMessage(c.box);
-        host.PreviewReady = true;
+        ReportPage(host);
         PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
         EXPECT_EQ(calls, "show " + c.calls + "hide ");
         EXPECT_FALSE(host.busy || host.PreviewReady);
