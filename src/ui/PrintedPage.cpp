@@ -20,12 +20,7 @@ bool Take(QStringView& text, QLatin1StringView beginning) {
     return true;
 }
 
-void Drop(QStringView& text, QLatin1StringView end) {
-    if (text.endsWith(end, Qt::CaseInsensitive))
-        text.chop(end.size());
-}
-
-// A cell's line, from "<td" or "<TD" to its closing tag.
+// A cell's line. The tags in it and at its end are left to ReadMarkup.
 void AddCell(PageRow& row, QStringView line) {
     const auto end = line.indexOf('>');
     const auto quote = line.indexOf(u'"');
@@ -33,21 +28,15 @@ void AddCell(PageRow& row, QStringView line) {
     const bool wide = quote >= 0 && quote < percent && percent < end;
     row.percents.push_back(wide ? line.sliced(quote + 1, percent - quote - 1).toInt() : 0);
     row.kind = wide ? RowKind::Ware : RowKind::Captions;
-    line = line.mid(end + 1);
-    Drop(line, QLatin1StringView("</td>"));
-    if (Take(line, QLatin1StringView("<small><font face=\"Arial\">")))
-        Drop(line, QLatin1StringView("</font></small>"));
-    row.cells.push_back(line);
+    row.cells.push_back(line.mid(end + 1));
 }
 
 void AddLine(PrintedPage& page, QStringView line) {
     RowKind kind = RowKind::Line;
-    if (Take(line, QLatin1StringView("<H1>"))) {
+    if (Take(line, QLatin1StringView("<H1>")))
         kind = RowKind::Heading;
-        Drop(line, QLatin1StringView("</H1>"));
-    } else {
-        Drop(line, QLatin1StringView("</BR>"));
-    }
+    else if (line.endsWith(QLatin1StringView("</BR>")))
+        line.chop(5);
     page.rows.push_back({kind, {line}, {0}});
 }
 
@@ -64,7 +53,6 @@ void ReadLine(PrintedPage& page, QStringView line) {
     if (IsFrame(line))
         return;
     if (Take(line, QLatin1StringView("<title>"))) {
-        Drop(line, QLatin1StringView("</title>"));
         page.title = ReadMarkup(line).text;
     } else if (line == QLatin1StringView("<tr>")) {
         page.rows.push_back({RowKind::Captions, {}, {}});
