@@ -83,8 +83,6 @@ ListTable::ListTable(QWidget* parent, QList<TableColumn> columns, TableSource so
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
-    setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
     setAllColumnsShowFocus(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     SetUpHeader();
@@ -96,7 +94,6 @@ void ListTable::SetUpHeader() {
     auto* captions = new Header(Qt::Horizontal, this);
     setHeader(captions);
     captions->setStretchLastSection(false);
-    captions->setSectionsMovable(false);
     captions->setSectionsClickable(true);
     captions->setSortIndicatorShown(true);
     captions->setMinimumSectionSize(10);
