@@ -1,12 +1,32 @@
 #include "window/WindowFixture.h"
 
+#include "text/Ansi.h"
 #include "ui/Application.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDesktopServices>
 #include <QInputDialog>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QTest>
 
 namespace emporium::test {
+
+namespace {
+
+void TypeInto(QWidget* field, const QString& text) {
+    for (const QChar c : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, c);
+        QApplication::sendEvent(field, &press);
+    }
+}
+
+} // namespace
 
 WindowTest::WindowTest() {
     program.Write("Emporium/ItemKategorien.dat", Lines({" 2 ", "Werkzeug", "Öle"_ansi}));
@@ -21,48 +41,142 @@ WindowTest::WindowTest() {
     for (const auto list : {"GarethMännlich.dat"_ansi, std::string_view("GarethWeiblich.dat")})
         program.Write(std::string("Borough/").append(list), Lines({"Ada"}));
     program.Write("Borough/GarethNachname.dat", Lines({"Mek"}));
+    QDesktopServices::setUrlHandler("file", this, "View");
+    connect(&timer_, &QTimer::timeout, this, &WindowTest::AnswerDialog);
+    timer_.start(10);
 }
 
 WindowTest::~WindowTest() {
-    if (driver) {
-        EXPECT_TRUE(driver->unexpected.isEmpty()) << qPrintable(driver->unexpected.join("\n"));
-        EXPECT_EQ(driver->Pending(), 0) << "a dialog never opened";
-    }
+    EXPECT_TRUE(handlers_.empty()) << "a dialog never opened";
 }
 
-void WindowTest::Open() {
-    window.emplace(program.root);
-    driver.emplace(*window);
+void WindowTest::Open(const std::filesystem::path& folder) {
+    window.emplace(folder);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&*window));
 }
 
+QString WindowTest::Cell(const QString& name, int row, int column) const {
+    return Find<ui::ListTable>(name)->model()->index(row, column).data().toString();
+}
+
+void WindowTest::Click(QWidget* widget) {
+    if (!widget->isVisible())
+        qFatal("%s is hidden", qUtf8Printable(widget->objectName()));
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void WindowTest::Pick(QComboBox* list, const QString& entry) {
+    list->showPopup();
+    QAbstractItemView* view = list->view();
+    const QModelIndex index = view->model()->index(list->findText(entry), 0);
+    view->setCurrentIndex(index);
+    QTest::keyClick(view, Qt::Key_Return);
+}
+
+void WindowTest::Type(const QString& name, const QString& text) const {
+    auto* field = Find<QLineEdit>(name);
+    Click(field);
+    QTest::keySequence(field, QKeySequence::SelectAll);
+    QTest::keyClick(field, Qt::Key_Delete);
+    TypeInto(field, text);
+}
+
+void WindowTest::ClickRow(const QString& name, int row) const {
+    auto* list = Find<ui::ListTable>(name);
+    const QModelIndex index = list->model()->index(row, 0);
+    list->scrollTo(index);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+}
+
+void WindowTest::ChooseFromMenu(const QString& name, int entry) const {
+    auto* list = Find<ui::ListTable>(name);
+    QTimer::singleShot(50, list, [entry] {
+        auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+        menu.setActiveAction(menu.actions().at(entry));
+        QTest::keyClick(&menu, Qt::Key_Return);
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(list->viewport(), &event);
+    QTest::qWait(10);
+}
+
+void WindowTest::Expect(std::function<void(QWidget& dialog)> handler) {
+    handlers_.push_back(std::move(handler));
+}
+
 void WindowTest::Answer(const QString& text, const QString& button) {
-    driver->Expect([text, button](QWidget& dialog) {
-        const auto* box = qobject_cast<QMessageBox*>(&dialog);
-        ASSERT_TRUE(box);
-        EXPECT_EQ(box->text(), text);
-        WindowDriver::Press(dialog, button);
+    Expect([text, button](QWidget& dialog) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).text(), text);
+        Press(dialog, button);
     });
 }
 
 void WindowTest::Dismiss(const QString& beginning) {
-    driver->Expect([beginning](QWidget& dialog) {
-        const auto* box = qobject_cast<QMessageBox*>(&dialog);
-        ASSERT_TRUE(box);
-        EXPECT_TRUE(box->text().startsWith(beginning)) << qPrintable(box->text());
-        WindowDriver::Press(dialog, "OK");
+    Expect([beginning](QWidget& dialog) {
+        const QString text = dynamic_cast<QMessageBox&>(dialog).text();
+        EXPECT_TRUE(text.startsWith(beginning)) << qPrintable(text);
+        Press(dialog, "OK");
     });
 }
 
 void WindowTest::Enter(const QString& prompt, const QString& text) {
-    driver->Expect([prompt, text](QWidget& dialog) {
-        const auto* box = qobject_cast<QInputDialog*>(&dialog);
-        ASSERT_TRUE(box);
-        EXPECT_EQ(box->labelText(), prompt);
-        WindowDriver::TypeInto(dialog.findChild<QLineEdit*>(), text);
-        WindowDriver::Press(dialog, "OK");
+    Expect([prompt, text](QWidget& dialog) {
+        EXPECT_EQ(dynamic_cast<QInputDialog&>(dialog).labelText(), prompt);
+        TypeInto(dialog.findChild<QLineEdit*>(), text);
+        Press(dialog, "OK");
     });
+}
+
+void WindowTest::SaveAs(const QString& file) {
+    Expect([file](QWidget& dialog) {
+        auto* name = Find<QLineEdit>(&dialog, "fileNameEdit");
+        name->setText(file);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void WindowTest::PrintTo(const QString& file, int page) {
+    Expect([this, file, page](QWidget& widget) {
+        EXPECT_FALSE(Find("cmdShopEditor")->isEnabled()) << "a print under way takes no commands";
+        auto& dialog = dynamic_cast<QPrintDialog&>(widget);
+        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
+        dialog.printer()->setOutputFileName(file);
+        dialog.printer()->setFromTo(page, page);
+        dialog.done(QDialog::Accepted);
+    });
+}
+
+void WindowTest::Press(const QWidget& dialog, const QString& text) {
+    for (auto* button : dialog.findChildren<QAbstractButton*>())
+        if (button->text().remove('&') == text && button->isVisible()) {
+            Click(button);
+            return;
+        }
+    qFatal("no button %s", qUtf8Printable(text));
+}
+
+void WindowTest::AnswerDialog() {
+    handled_.removeIf([](const auto& shown) { return !shown || !shown->isVisible(); });
+    QWidget* dialog = QApplication::activeModalWidget();
+    // A print on a busy machine takes long enough for its box, which goes by itself.
+    if (!dialog || !dialog->isVisible() || handled_.contains(dialog) ||
+        dialog->objectName() == "PrintProgress")
+        return;
+    handled_ += dialog;
+    EXPECT_FALSE(dialog->windowTitle().isEmpty()) << "whose box?";
+    const QPointer<QWidget> shown(dialog);
+    look(*dialog);
+    if (handlers_.empty()) {
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        ADD_FAILURE() << "unexpected: " << qPrintable(box ? box->text() : dialog->windowTitle());
+    } else {
+        const auto handler = handlers_.front();
+        handlers_.pop_front();
+        handler(*dialog);
+    }
+    if (shown && shown->isVisible())
+        shown->close();
 }
 
 } // namespace emporium::test

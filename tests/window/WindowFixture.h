@@ -1,28 +1,76 @@
-// A window over a small program folder of its own, with a driver for it.
+// A window over a small program folder of its own, driven as its user does, with mouse and
+// keyboard; its controls are found by name. Boxes and dialogs that open meanwhile are answered by
+// what is expected, in the order in which they come.
 #pragma once
 
 #include "support/ProgramFolder.h"
-#include "text/Ansi.h"
-#include "window/WindowDriver.h"
+#include "ui/ListTable.h"
+#include "ui/MainWindow.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <deque>
+#include <functional>
 #include <optional>
 
 namespace emporium::test {
 
-class WindowTest : public testing::Test {
+class WindowTest : public QObject, public testing::Test {
+    Q_OBJECT
+
 protected:
     WindowTest();
     ~WindowTest() override;
 
     ProgramFolder program;
     std::optional<ui::MainWindow> window; // over the folder as it is when Open is called
-    std::optional<WindowDriver> driver;
+    std::function<void(QWidget& dialog)> look = [](QWidget&) {}; // sees dialogs before the answer
+    QUrl viewed; // what the system's viewer was asked to open last
 
-    void Open();
+    void Open(const std::filesystem::path& folder);
+    void Open() { Open(program.root); }
 
-    /// Answers the next yes/no box, which must bear the text.
+    /// The control of that name in the window or one of its dialogs; null if there is none.
+    template <typename Widget = QWidget> Widget* Find(const QString& name) const {
+        return Find<Widget>(&*window, name);
+    }
+    template <typename Widget = QWidget>
+    static Widget* Find(const QWidget* parent, const QString& name) {
+        return parent->findChild<Widget*>(name);
+    }
+
+    /// What a text field shows, and a list view in a cell.
+    QString FieldText(const QString& name) const { return Find<QLineEdit>(name)->text(); }
+    QString Cell(const QString& name, int row, int column) const;
+
+    /// A click into the middle of a control.
+    static void Click(QWidget* widget);
+    void Click(const QString& name) const { Click(Find(name)); }
+
+    /// Opens the list and clicks the entry.
+    static void Pick(QComboBox* list, const QString& entry);
+    void Pick(const QString& name, const QString& entry) const {
+        Pick(Find<QComboBox>(name), entry);
+    }
+
+    /// Clicks into a text field, selects what it holds and types the text over it.
+    void Type(const QString& name, const QString& text) const;
+
+    /// Clicks a row of a list view, from 0 as it stands on the screen.
+    void ClickRow(const QString& name, int row) const;
+
+    /// Opens a list's menu by key and chooses an entry, from 0.
+    void ChooseFromMenu(const QString& name, int entry) const;
+
+    /// The next box or dialog that opens is handed to the handler, which must close it.
+    void Expect(std::function<void(QWidget& dialog)> handler);
+
+    /// Presses a button of the next yes/no box, which must bear the text.
     void Answer(const QString& text, const QString& button);
 
     /// Closes the next message box, which must begin with the text.
@@ -30,6 +78,23 @@ protected:
 
     /// Types into the next input box and confirms it.
     void Enter(const QString& prompt, const QString& text);
+
+    /// Saves by the next dialog under that name.
+    void SaveAs(const QString& file);
+
+    /// Prints into a PDF file by the next dialog: one page, or all for 0.
+    void PrintTo(const QString& file, int page = 0);
+
+    /// Clicks the button that bears the text, "&" left aside.
+    static void Press(const QWidget& dialog, const QString& text);
+
+private:
+    Q_INVOKABLE void View(const QUrl& file) { viewed = file; }
+    void AnswerDialog();
+
+    std::deque<std::function<void(QWidget&)>> handlers_;
+    QList<QPointer<QWidget>> handled_; // the dialogs that are open and in a handler's hands
+    QTimer timer_;
 };
 
 } // namespace emporium::test
