@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QPainter>
 
 namespace emporium::ui {
 
@@ -22,6 +23,17 @@ protected:
         View::focusInEvent(event);
         if (!this->selectionModel()->hasSelection())
             this->selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+    }
+
+    // A lit row looks alike in the list that the keys go to and in the others.
+    bool event(QEvent* event) override {
+        const bool handled = View::event(event);
+        if (event->type() == QEvent::Paint && this->hasFocus()) {
+            QPainter painter(this);
+            painter.setPen(QColor(240, 150, 0)); // stands out from black, grey and white
+            painter.drawRect(this->rect().adjusted(0, 0, -1, -1));
+        }
+        return handled;
     }
 };
 
