@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <iostream>
@@ -153,13 +154,19 @@ void StartProgram(benchmark::State& state) {
     Start(world.root, state);
 }
 
+// The page that the program prints.
+std::filesystem::path WritePage(const World& world, std::int64_t rows) {
+    std::string document;
+    WriteShopPrint(FilledShop(rows), document);
+    auto page = world.folders.TempFolder / "Temp.html";
+    std::ofstream(page, std::ios::binary) << document;
+    return page;
+}
+
 void PrintPdf(benchmark::State& state) {
     const QTemporaryDir folder;
     const World world(1, 1);
-    std::string document;
-    WriteShopPrint(FilledShop(state.range(0)), document);
-    const auto page = world.folders.TempFolder / "Temp.html";
-    std::ofstream(page, std::ios::binary) << document;
+    const auto page = WritePage(world, state.range(0));
     for (auto _ : state) {
         ui::HtmlView view(nullptr);
         view.Navigate(SystemFiles().read(page, LargestFile).bytes);
@@ -170,6 +177,18 @@ void PrintPdf(benchmark::State& state) {
         if (!view.PrintTo(printer))
             state.SkipWithError("nothing was printed");
     }
+}
+
+// A page without rows shows what the browser's start takes.
+void PrintByBrowser(benchmark::State& state) {
+    const World world(1, 1);
+    const std::string page = WritePage(world, state.range(0)).string();
+    const std::string command = "chromium --headless --no-sandbox --no-pdf-header-footer 2>&- "
+                                "--print-to-pdf=" +
+                                page + ".pdf " + page;
+    for (auto _ : state)
+        if (std::system(command.c_str()) != 0)
+            state.SkipWithError("nothing was printed");
 }
 
 const std::vector<Measurement> Measurements = {
@@ -209,9 +228,8 @@ const std::vector<Measurement> Measurements = {
     {"GenerateShop", "", OnDesk(PrepareShop, [](Desk& d, int) { d.Generate(); })}};
 
 void PrintMemory() {
-    const StarterWorld starter;
     const double empty = RunWindow("empty");
-    const double program = RunWindow(starter.root);
+    const double program = RunWindow(StarterWorld().root);
     std::cout << "\n| Memory | MB | Beside | Ratio |\n|---|---|---|---|\n"
               << "| An empty window | " << Digits(empty) << " | | |\n"
               << "| The window over the starter files | " << Digits(program)
@@ -224,6 +242,10 @@ void PrintMemory() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
-    emporium::bench::RunAll(argc, argv, emporium::bench::Measurements);
-    emporium::bench::PrintMemory();
+    using namespace emporium::bench;
+    auto measurements = Measurements;
+    if (std::find(argv, argv + argc, std::string("--peers")) != argv + argc)
+        measurements.push_back({"BrowserPdf", "", PrintByBrowser, true, {0, 100, 3000}});
+    RunAll(argc, argv, measurements);
+    PrintMemory();
 }
