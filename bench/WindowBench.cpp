@@ -154,7 +154,6 @@ void StartProgram(benchmark::State& state) {
     Start(world.root, state);
 }
 
-// The page that the program prints.
 std::filesystem::path WritePage(const World& world, std::int64_t rows) {
     std::string document;
     WriteShopPrint(FilledShop(rows), document);
