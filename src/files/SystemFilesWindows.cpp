@@ -128,28 +128,34 @@ std::error_code CreateFolder(const Path& folder) {
     return GetLastError() == ERROR_ALREADY_EXISTS ? std::error_code() : LastError();
 }
 
-// The folder stays open for writing, which hinders nobody: whoever opens a folder lets others do
-// so. Only the test does not, and so it fails beside another copy, on whatever machine that one
-// runs. a copy tests
-// before it marks.
-FolderClaim Claim(const Path& folder) {
-    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
-    HANDLE mark = INVALID_HANDLE_VALUE;
-    const auto error = Open(folder, FILE_ADD_FILE, sharing, OPEN_EXISTING, mark);
-    const bool taken = error == std::errc::device_or_resource_busy;
-    if (!error)
-        CloseHandle(mark);
-    if (Open(folder, FILE_ADD_FILE, sharing | FILE_SHARE_WRITE, OPEN_EXISTING, mark))
-        return {taken, nullptr};
-    return {taken, std::shared_ptr<void>(mark, CloseHandle)};
+// Open as long as the result lives; nothing if it can't be opened.
+std::shared_ptr<void> Hold(const Path& path, DWORD access, DWORD sharing) {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    return Open(path, access, sharing, OPEN_EXISTING, handle)
+               ? nullptr
+               : std::shared_ptr<void>(handle, CloseHandle);
 }
 
-// A folder can't be locked here; a file in it can, and goes with its last handle.
+// The folder stays open for writing, which hinders nobody: whoever opens a folder lets others do
+// so. Only the test does not, and so it fails beside another copy, on whatever machine that one
+// runs. Copies that start in the same instant test and mark one after the other.
+FolderClaim Claim(const Path& folder) {
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
+    const auto guard = Hold(folder, DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    const bool alone = Hold(folder, FILE_ADD_FILE, sharing) != nullptr;
+    auto mark = Hold(folder, FILE_ADD_FILE, sharing | FILE_SHARE_WRITE);
+    return {mark && !alone, mark};
+}
+
+// A folder can't be locked here; a file in it can, and goes with its last handle. A link in its
+// place is not followed: it is what goes, and not the file that it leads to.
 std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
+    constexpr DWORD flags =
+        FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT;
     const std::wstring file = SystemPath(folder / LockName);
     for (int waited = 0;; waited += LockPauseMilliseconds) {
-        HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, OPEN_ALWAYS,
+                                    flags, nullptr);
         if (handle != INVALID_HANDLE_VALUE) {
             lock = std::shared_ptr<void>(handle, CloseHandle);
             return {};
@@ -189,13 +195,12 @@ FileStatus StatusOf(const Path& path) {
 // Where a link ends, links behind it included.
 Path LinkTarget(const Path& link) {
     constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    HANDLE handle = INVALID_HANDLE_VALUE;
-    if (!IsLink(link) || Open(link, 0, sharing, OPEN_EXISTING, handle))
+    const auto opened = IsLink(link) ? Hold(link, 0, sharing) : nullptr;
+    if (!opened)
         return {};
     std::wstring name(32768, L'\0');
-    name.resize(GetFinalPathNameByHandleW(handle, name.data(), static_cast<DWORD>(name.size()),
-                                          FILE_NAME_NORMALIZED));
-    CloseHandle(handle);
+    name.resize(GetFinalPathNameByHandleW(opened.get(), name.data(),
+                                          static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED));
     return name;
 }
 
@@ -217,12 +222,8 @@ std::vector<Path> EntriesOf(const Path& folder) {
 bool SameFile(const Path& one, const Path& other) {
     const auto identity = [](const Path& path, BY_HANDLE_FILE_INFORMATION& information) {
         constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-        HANDLE handle = INVALID_HANDLE_VALUE;
-        if (Open(path, 0, sharing, OPEN_EXISTING, handle))
-            return false;
-        const bool told = GetFileInformationByHandle(handle, &information) != 0;
-        CloseHandle(handle);
-        return told;
+        const auto file = Hold(path, 0, sharing);
+        return file && GetFileInformationByHandle(file.get(), &information) != 0;
     };
     BY_HANDLE_FILE_INFORMATION a{}, b{};
     return identity(one, a) && identity(other, b) &&

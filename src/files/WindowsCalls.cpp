@@ -55,12 +55,13 @@ DWORD AttributesOf(const Path& path) {
     return GetFileAttributesW(SystemPath(path).c_str());
 }
 
-// Folders can be opened, too.
+// Folders can be opened, too. A link is in a new file's way, even if it leads to none.
 std::error_code Open(const Path& path, DWORD access, DWORD sharing, DWORD disposition,
                      HANDLE& handle) {
+    const DWORD links = disposition == CREATE_NEW ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
     return WithRetries([&] {
         handle = CreateFileW(SystemPath(path).c_str(), access, sharing, nullptr, disposition,
-                             FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+                             FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS | links, nullptr);
         return handle != INVALID_HANDLE_VALUE;
     });
 }
