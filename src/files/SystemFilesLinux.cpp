@@ -207,8 +207,9 @@ FolderClaim Claim(const Path& folder) {
 bool StillStands(int descriptor, const Path& file) {
     struct stat opened {};
     struct stat standing {};
-    return ::fstat(descriptor, &opened) == 0 && ::lstat(file.c_str(), &standing) == 0 &&
-           opened.st_dev == standing.st_dev && opened.st_ino == standing.st_ino;
+    return ::fstat(descriptor, &opened) == 0 && opened.st_nlink > 0 &&
+           ::lstat(file.c_str(), &standing) == 0 && opened.st_dev == standing.st_dev &&
+           opened.st_ino == standing.st_ino;
 }
 
 // Network disks lock a file for all machines, but a folder for each alone.
