@@ -57,11 +57,8 @@ std::optional<double> ReadGermanNumber(std::string_view text) {
 
 std::int16_t RoundToInt16(double number) {
     using Limits = std::numeric_limits<std::int16_t>;
-    if (!(number < Limits::max()))
-        return Limits::max();
-    if (number <= Limits::min())
-        return Limits::min();
-    return static_cast<std::int16_t>(std::nearbyint(number));
+    return static_cast<std::int16_t>(
+        std::clamp<double>(std::nearbyint(number), Limits::min(), Limits::max()));
 }
 
 std::string GermanNumberText(double value) {

@@ -70,24 +70,21 @@ const Road Roads[] = {
     {"Kleidung", "mantel", "Abakus", true}, {"Kleidung", "mantel", "Nahkampfwaffen", true},
 };
 
-void Prepare(EditorAtWork& world, const Road& road) {
-    world.View(road.view);
-    if (!road.open.empty())
-        world.Open(road.open);
-    world.FormCategory(road.formCategory);
-    world.Fill(Hat);
-}
-
-void Take(EditorAtWork& world, const Road& road) {
-    if (road.moves)
-        world.script.ExpectYesNo(MoveQuestion, true);
-    world.Save();
-}
-
 TEST(AllOrNothing, AFailureChangesNothingOnAnyRoad) {
     for (const Road& road : Roads)
-        ExpectAllOrNothing([&](EditorAtWork& world) { Prepare(world, road); },
-                           [&](EditorAtWork& world) { Take(world, road); });
+        ExpectAllOrNothing(
+            [&](EditorAtWork& world) {
+                world.View(road.view);
+                if (!road.open.empty())
+                    world.Open(road.open);
+                world.FormCategory(road.formCategory);
+                world.Fill(Hat);
+            },
+            [&](EditorAtWork& world) {
+                if (road.moves)
+                    world.script.ExpectYesNo(MoveQuestion, true);
+                world.Save();
+            });
     for (const std::string_view view : {"Alles", "Kleidung"})
         ExpectAllOrNothing(
             [&](EditorAtWork& world) {

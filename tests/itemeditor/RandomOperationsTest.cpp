@@ -205,7 +205,6 @@ protected:
 
 TEST_F(RandomOperations, AgreeWithTheModelAfterEveryStep) {
     SCOPED_TRACE("EMPORIUM_TEST_SEED=" + std::to_string(seed));
-    RecordProperty("seed", std::to_string(seed));
     for (int step = 0; step < 1000 && !HasFailure(); ++step) {
         SCOPED_TRACE("step " + std::to_string(step));
         Operate();

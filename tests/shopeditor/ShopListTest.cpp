@@ -3,6 +3,7 @@
 #include "shopeditor/ShopRecovery.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
+#include "text/GermanNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -156,26 +157,17 @@ TEST_F(ShopList, AWareWithoutAPriceNeverTakesADigitForItsUnit) {
     }
 }
 
-// The price in whole hundredths, written as decimal text.
-std::string ExactText(int basePrice, int percent) {
-    const int hundredths = basePrice * percent;
-    const int size = hundredths < 0 ? -hundredths : hundredths;
-    std::string text = (hundredths < 0 ? "-" : "") + std::to_string(size / 100);
-    if (size % 100 != 0)
-        text += "," + std::to_string(size / 10 % 10);
-    if (size % 10 != 0)
-        text += std::to_string(size % 10);
-    return text;
-}
-
-TEST(LevelPrice, EveryBasePriceAtEveryLevelIsExact) {
+TEST(LevelPrice, EveryBasePriceAtEveryLevelIsExactAndHasNoDigitTooMany) {
     using Limits = std::numeric_limits<std::int16_t>;
-    EXPECT_EQ(ExactText(-7, 85) + " " + ExactText(250, 85), "-5,95 212,5");
     for (int base = Limits::min(); base <= Limits::max(); ++base)
-        for (int level = 0; const int percent : {70, 85, 100, 120, 150})
-            ASSERT_EQ(LevelPriceText(static_cast<std::int16_t>(base), level++),
-                      ExactText(base, percent))
-                << base << " at " << percent << " percent";
+        for (int level = 0; const int percent : {70, 85, 100, 120, 150}) {
+            const std::string text = LevelPriceText(static_cast<std::int16_t>(base), level++);
+            ASSERT_EQ(ReadGermanNumber(text), base * percent / 100.0) << text;
+            const bool isFraction = text.find(',') != text.npos;
+            ASSERT_TRUE(text[0] != '+' && (!isFraction || text.back() != '0')) << text;
+        }
+    for (const auto& [base, text] : {std::pair(7, "5,95"), {-7, "-5,95"}, {0, "0"}, {250, "212,5"}})
+        EXPECT_EQ(LevelPriceText(static_cast<std::int16_t>(base), 1), text);
 }
 
 TEST(BasePrice, TheNumberOfAPriceIsRoundedAndHeldWithinItsLimits) {
