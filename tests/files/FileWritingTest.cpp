@@ -1,11 +1,9 @@
 #include "files/FileWriting.h"
-#include "base/Subs.h"
 #include "files/Journal.h"
 #include "files/Links.h"
 #include "files/Recovery.h"
 #include "files/Temporaries.h"
 #include "support/MemoryDisk.h"
-#include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -206,8 +204,13 @@ TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
     const auto foreign = [](const char* target, const char* temporary) {
         return JournalText({{target, temporary, std::nullopt, FingerprintOf("neu")}});
     };
+    const auto sealed = [](const std::string& lines) {
+        const std::string whole = "orvan-journal 2\n" + lines;
+        return whole + std::to_string(FingerprintOf(whole).checksum) + "\n";
+    };
     for (const std::string& journal :
          {text /* without the new contents */, text.substr(1), std::string(),
+          sealed("x.dat\n\n-\n-\n-\n-\n"), sealed("x.dat\n\n1\nx\n1\n1\n"), sealed("x.dat\n\n"),
           foreign("../b.dat", "../b.dat.orvan-neu0"), foreign("/x.dat", "/x.dat.orvan-neu0"),
           foreign("x.dat", "c.dat"), foreign("x.dat", "b.dat.orvan-neu0"), foreign("..", "")}) {
         Writing here;
@@ -235,20 +238,6 @@ TEST(Journal, OnlyAWholeJournalIsRead) {
         EXPECT_FALSE(ReadJournal(damaged)) << i;
     }
     EXPECT_FALSE(ReadJournal(text + text));
-}
-
-TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
-    const ProgramFolder program;
-    const FileLayer files = SystemFiles();
-    const fs::path folder = program.folders.EmporiumFolder();
-    const FolderClaim first = files.claim(folder);
-    EXPECT_FALSE(first.takenElsewhere);
-    EXPECT_TRUE(files.claim(folder).takenElsewhere);
-    std::shared_ptr<void> mine, others;
-    EXPECT_FALSE(files.lock(folder, mine));
-    EXPECT_EQ(files.lock(folder, others), std::errc::device_or_resource_busy);
-    mine.reset();
-    EXPECT_FALSE(files.lock(folder, others));
 }
 
 } // namespace

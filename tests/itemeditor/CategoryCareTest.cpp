@@ -83,6 +83,9 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
     world.script.ExpectMessage("Ein früherer Schreibvorgang"_ansi);
     world.View("Abakus");
     world.program.locked = false;
+    world.Fill(Hat);
+    world.program.failing = {world.program.calls + 2}; // the reading of the journal
+    ExpectRefusal(world, "Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi);
     world.script.ExpectMessage("Schreibvorgang.orvan-journal: ");
     world.View("Abakus");
 

@@ -163,6 +163,9 @@ TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
     EditItemText(world.editor, NameText, "anders");
     world.Save();
     EXPECT_TRUE(world.File("Abakus") == bytes);
+    world.program.Write("Emporium/Abakus.dat", bytes + RecordLines({Hat}));
+    world.script.ExpectMessage("Abakus.dat: Sie hat mehr als 32767 Gegenst");
+    world.View("Abakus");
 }
 
 } // namespace

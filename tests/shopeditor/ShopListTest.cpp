@@ -70,8 +70,11 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     EXPECT_TRUE(shop.cmdShopDelete.enabled && LastRemovedWare(shop).empty());
     RecoverShopRow(shop, script.platform);
     EXPECT_EQ(Rows(), (Texts{"Seil 5H"}));
+    ChooseShopRow(shop, 0);
+    EXPECT_EQ(shop.lvLaden.toolTip, "Seil");
     ClearShop(shop);
     EXPECT_TRUE(shop.lvLaden.current == -1 && !shop.cmdShopDelete.enabled);
+    EXPECT_EQ(shop.lvLaden.toolTip + shop.cmbShopPreise.Text(), "");
     while (!ShopIsFull(shop))
         shop.lvLaden.rows.push_back(MakeShopRow(items.Record(0)));
     script.ExpectMessage("Der Laden ist voll");
