@@ -161,7 +161,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
                  {"", notWritten, 5}};
     for (const auto& c : cases) {
         MemoryDisk disk;
-        disk.names.erase(disk.folders.TempFolder.string()); // made when it is needed
+        disk.names.erase(disk.folders.TempFolder.generic_u8string()); // made when it is needed
         disk.failing = {c.failing};
         ScriptedPlatform script{disk.folders};
         script.platform.disk.files = disk.Files();
