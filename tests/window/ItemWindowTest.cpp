@@ -19,6 +19,12 @@ TEST_F(WindowTest, AnItemIsEditedSavedAndDeleted) {
     ClickRow("lvGegenstände", 2);
     EXPECT_EQ(FieldText("txtItem0"), "Zange");
     Type("txtItem0", "Beißzange");
+    const std::string foreign =
+        program.Read("Emporium/Werkzeug.dat") + "Rest1\r\n\r\n1H\r\n\r\n\r\n";
+    program.Write("Emporium/Werkzeug.dat", foreign);
+    Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    Click("cmdItemSave");
+    EXPECT_EQ(program.Read("Emporium/Werkzeug.dat"), foreign) << "the default overwrites nothing";
     Click("cmdItemSave");
     EXPECT_EQ(Cell("lvGegenstände", 1, 0), "Beißzange");
     EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").starts_with("Bei\xDFzange2\r\n40\r\n15S"));
@@ -36,8 +42,11 @@ TEST_F(WindowTest, TheChosenRowOpensByKeyAndStaysHighlighted) {
     Open();
     Pick("cmbKategorien", "Werkzeug");
     auto* list = Find<ui::ListTable>("lvGegenstände");
-    QTest::keyClick(list, Qt::Key_Return);
-    EXPECT_EQ(FieldText("txtItem0"), "Zange");
+    for (const auto key : {Qt::Key_Return, Qt::Key_Space}) {
+        Type("txtItem0", "");
+        QTest::keyClick(list, key);
+        EXPECT_EQ(FieldText("txtItem0"), "Zange");
+    }
     const QRect row = list->visualRect(list->currentIndex());
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row.center());
     EXPECT_TRUE(list->selectionModel()->hasSelection());
@@ -53,7 +62,7 @@ TEST_F(WindowTest, TypingFindsBeginningsFirstAndQuickHeaderClicksAreTwo) {
     QTest::mouseDClick(list->header()->viewport(), Qt::LeftButton, {}, header);
     EXPECT_EQ(Cell("lvGegenstände", 0, 0), "Ahle") << "the second click turns it back";
     EXPECT_EQ(list->header()->sortIndicatorSection(), 0);
-    QTest::keyClick(list, Qt::Key_A);
+    QTest::keyClicks(list, "aa");
     EXPECT_EQ(FieldText("txtItem0"), "Ahle");
     QTest::qWait(QApplication::keyboardInputInterval() + 50);
     QTest::keyClicks(list, "ang");
@@ -82,6 +91,7 @@ TEST_F(WindowTest, RegionsArePickedByHandOnlyAndMove) {
     QTest::mouseClick(chosen->viewport(), Qt::LeftButton, {},
                       chosen->visualItemRect(chosen->item(0)).center());
     Click("cmdZurück");
+    EXPECT_EQ(others->count(), 20);
     Click("cmdAlleHin");
     EXPECT_EQ(chosen->count(), 20);
     Click("cmdAlleZurück");

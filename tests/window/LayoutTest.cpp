@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
-#include <QScreen>
 #include <QTest>
 
 namespace emporium::test {
@@ -32,13 +31,12 @@ QStringList Places(const QWidget& parent) {
 }
 
 TEST_F(WindowTest, EveryControlHasItsPlaceInTheOrderOfTheTabKey) {
+    QImage red(40, 40, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    EXPECT_TRUE(red.save(QString::fromStdString((program.root / "GFX/new.bmp").string())));
     Open();
+    EXPECT_EQ(Find("cmdKategorieNeu")->grab().toImage().pixelColor(12, 12), Qt::red);
     EXPECT_EQ(window->windowTitle(), "Orvan-Emporium 3 v1.00 - Die Velmar Tuchhalle");
-    EXPECT_EQ(window->size(), QSize(632, 453));
-    const QPoint middle = window->screen()->availableGeometry().center();
-    EXPECT_LT((window->geometry().center() - middle).manhattanLength(), 40);
-    const auto* dialog = Find("frmEmporiumGenerator");
-    EXPECT_EQ(dialog->size(), QSize(280, 328));
     const QStringList prescribed = QString(R"(
 Browser 8 40 185 321; frmGegenstände 0 32 209 393; Frame5 8 24 193 73;
 cmbKategorien 8 16 177 21; cmdKategorieNeu 8 40 25 25; cmdKategorieDelete 32 40 25 25;
@@ -65,7 +63,9 @@ chkShopRegion 8 16 249 17; cmbShopRegion 8 40 249 21; lblRegionen 8 64 249 33;
 cmdStart 0 296 281 33)")
                                        .simplified()
                                        .split("; ");
-    const auto places = Places(*Find("ItemTab")->parentWidget()) + Places(*dialog);
+    EXPECT_EQ(Find("ItemTab")->parentWidget()->geometry(), QRect(0, 0, 632, 453));
+    const auto places =
+        Places(*Find("ItemTab")->parentWidget()) + Places(*Find("frmEmporiumGenerator"));
     for (qsizetype i = 0; i < std::max(prescribed.size(), places.size()); ++i)
         EXPECT_EQ(places.value(i).toStdString(), prescribed.value(i).toStdString());
 }
@@ -107,8 +107,7 @@ TEST_F(WindowTest, TheModesShowTheirPartsOfTheWindow) {
     EXPECT_TRUE(visible("frmShop6") && visible("cmdItemHin") && visible("frmGegenstände"));
     EXPECT_FALSE(visible("ItemTab") || Find("cmdItemHin")->isEnabled());
     Click("cmdItemEditor");
-    EXPECT_TRUE(visible("ItemTab"));
-    EXPECT_FALSE(visible("cmdItemHin"));
+    EXPECT_TRUE(visible("ItemTab") && !visible("cmdItemHin"));
 }
 
 } // namespace

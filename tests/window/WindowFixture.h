@@ -44,11 +44,9 @@ protected:
         return parent->findChild<Widget*>(name);
     }
 
-    /// What a text field shows, and a list view in a cell.
     QString FieldText(const QString& name) const { return Find<QLineEdit>(name)->text(); }
     QString Cell(const QString& name, int row, int column) const;
 
-    /// A click into the middle of a control.
     static void Click(QWidget* widget);
     void Click(const QString& name) const { Click(Find(name)); }
 
@@ -79,7 +77,6 @@ protected:
     /// Types into the next input box and confirms it.
     void Enter(const QString& prompt, const QString& text);
 
-    /// Saves by the next dialog under that name.
     void SaveAs(const QString& file);
 
     /// Prints into a PDF file by the next dialog: one page, or all for 0.
