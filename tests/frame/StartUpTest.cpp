@@ -143,7 +143,7 @@ TEST(Start, ShowsTheItemsAndTurnsToTheShopAndBack) {
         EXPECT_TRUE(here.window.mode == Mode::ItemEditor && !items.cmdItemHin.visible);
     }
     here.script.platform.OpenInViewer = [&](const auto& page) {
-        here.window.caption = page.stem();
+        here.window.caption = page.stem().string();
     };
     OpenHelp(here.script.platform);
     EXPECT_EQ(here.window.caption, "Emporium");
