@@ -101,7 +101,7 @@ void SetShopRowQuantity(ShopEditor& shop, const Platform& platform) {
     row = CurrentRow(shop);
     if (answer.empty() || !row)
         return;
-    row->WithQuantity = std::string(WithoutLast(row->ShopItemLine)) + " (x" + answer + ")";
+    SetQuantity(*row, answer);
     shop.lvLaden.toolTip = row->WithQuantity;
     PlaceCurrentRow(shop.lvLaden, ShopTextColumn);
 }

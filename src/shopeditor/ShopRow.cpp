@@ -40,14 +40,16 @@ std::string_view ShopCell(const ShopRow& row, int column) {
     return row.WithQuantity.empty() ? WithoutLast(row.ShopItemLine) : row.WithQuantity;
 }
 
+void SetQuantity(ShopRow& row, std::string_view quantity) {
+    row.WithQuantity = WithoutLast(row.ShopItemLine);
+    row.WithQuantity.append(" (x").append(quantity).append(")");
+}
+
 std::string QuantityOf(const ShopRow& row) {
-    const std::string_view name = WithoutLast(row.ShopItemLine);
-    const std::string_view shown = ShopCell(row, ShopTextColumn);
-    constexpr std::size_t opening = 3, closing = 1;
-    return shown.size() < name.size() + opening + closing
-               ? "1"
-               : std::string(shown.substr(name.size() + opening,
-                                          shown.size() - name.size() - opening - closing));
+    if (row.WithQuantity.empty())
+        return "1";
+    const std::size_t begin = WithoutLast(row.ShopItemLine).size() + std::string_view(" (x").size();
+    return row.WithQuantity.substr(begin, row.WithQuantity.size() - begin - 1);
 }
 
 } // namespace emporium

@@ -37,6 +37,9 @@ ShopRow MakeShopRow(const RecordView& record);
 /// What the list shows of a ware.
 std::string_view ShopCell(const ShopRow& row, int column);
 
+/// Puts the quantity behind the name, in brackets; an earlier one goes.
+void SetQuantity(ShopRow& row, std::string_view quantity);
+
 /// What stands for the quantity behind the name, without the brackets; "1" for a ware without one.
 std::string QuantityOf(const ShopRow& row);
 
