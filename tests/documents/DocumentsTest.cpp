@@ -155,9 +155,6 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
                  {"load ", "", 0, 3, true, false},
                  {"load print ", "Es wurde nichts", 0, 3, true, true, false},
                  {"", notWritten, 1},
-                 {"", notWritten, 2},
-                 {"", notWritten, 3},
-                 {"", notWritten, 4},
                  {"", notWritten, 5}};
     for (const auto& c : cases) {
         MemoryDisk disk;

@@ -133,6 +133,7 @@ TEST(FileWriting, WhatStandsInTheWayIsRefused) {
     }
     disk.Put(here.folder / JournalName, "unlesbar", FileStatus::Kind::Folder);
     EXPECT_FALSE(here.Write({{"a.dat", "neu"}}).stands) << "nothing before the journal is finished";
+    EXPECT_EQ(FinishJournal(disk.Files(), here.folder).notices.size(), 1U) << "set aside";
 }
 
 TEST(FileWriting, OnlyTemporariesAreSweptAway) {

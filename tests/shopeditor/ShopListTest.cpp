@@ -65,7 +65,7 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     ChooseShopRow(shop, 0);
     RemoveShopRow(shop, script.platform);
     EXPECT_EQ(LastRemovedWare(shop), "Seil");
-    EXPECT_FALSE(shop.cmdShopDelete.enabled);
+    EXPECT_TRUE(shop.lvLaden.toolTip.empty() && !shop.cmdShopDelete.enabled);
     RecoverShopRow(shop, script.platform);
     EXPECT_TRUE(shop.cmdShopDelete.enabled && LastRemovedWare(shop).empty());
     RecoverShopRow(shop, script.platform);

@@ -168,6 +168,8 @@ public:
             put(row.record);
             out << row.home;
         }
+        for (const ViewFile& file : editor.viewFiles)
+            out << file.name << file.canBeWritten;
         put(editor.lvGegenstände.rows);
         for (const TextField& field : editor.txtItem)
             out << field.text << '\n';
