@@ -153,6 +153,9 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
     here.disk.Put(here.folder / "link.html", "a.dat", FileStatus::Kind::Link);
     EXPECT_FALSE(WriteDocument(files, here.folder / "link.html", "Laden"));
     EXPECT_EQ(here.disk.Read("Emporium/a.dat"), "Laden");
+    here.disk.Put(here.folder / "b.dat", "alt").writable = false;
+    EXPECT_TRUE(WriteDocument(files, here.folder / "b.dat", "Laden"));
+    EXPECT_EQ(here.disk.Read("Emporium/b.dat"), "alt");
     for (int n = 1, calls = 0; calls == n - 1; ++n) {
         Writing closed; // the folder, so that the file is written in its place
         closed.disk.Put(closed.folder, "", FileStatus::Kind::Folder).writable = false;

@@ -31,6 +31,11 @@ TEST(CategoryCare, WhatAnotherProgramDidToTheCategoriesStands) {
     EXPECT_EQ(world.File("Fremd"), RecordLines({Hat}));
 
     world.program.Write("Emporium/ItemKategorien.dat", "1\nKleidung\n");
+    world.program.Remove("Emporium/Zelte.dat");
+    world.View("Alles");
+    world.FormCategory("Zelte");
+    world.Fill(Hat);
+    ExpectRefusal(world, "Zelte.dat: Diese Kategorie gibt es nicht mehr");
     world.program.Remove("Emporium/Abakus.dat");
     world.script.ExpectMessage("Abakus.dat: Die Datei fehlt.");
     world.View("Abakus");

@@ -27,7 +27,7 @@ TEST(ItemForm, NumbersTakeOneSignAtTheStartAndOneSeparatorBehindIt) {
     for (const ItemText field : {WeightText, PriceText}) {
         EXPECT_EQ(FilterItemPaste(field, " 2,5\t", "1", 1, 0), "2,5");
         EXPECT_EQ(FilterItemPaste(field, "2,5", "1,5", 0, 3), "2,5") << "in its place";
-        EXPECT_EQ(FilterItemPaste(field, "2,5", "1,5", 0, 1), "");
+        EXPECT_EQ(FilterItemPaste(field, "-2,", "1,5", 0, 1), "");
         EXPECT_EQ(FilterItemPaste(field, "2x", "", 0, 0), "");
     }
     EXPECT_EQ(FilterItemPaste(NameText, " 2x ", "-1", 1, 0), " 2x ");
@@ -76,7 +76,7 @@ TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
     MoveAllRegionsIn(editor, platform); // there are no more
     EXPECT_EQ(RecordOfForm(editor)[AvailabilityField],
               "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|"_ansi);
-    editor.lstVerfügbar.Select(1);
+    SelectAvailableRegion(editor, 1);
     MoveRegionOut(editor);
     MoveRegionOut(editor);
     EXPECT_TRUE(RecordOfForm(editor)[AvailabilityField].starts_with("BO|FI|"));
