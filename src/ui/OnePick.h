@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QPainter>
 
 namespace emporium::ui {
