@@ -103,7 +103,8 @@ public:
         const double height = HeightOf(page_.rows[row], layout_);
         const RowKind kind = page_.rows[row].kind;
         // Captions don't stand alone at the foot of a page.
-        const double needed = kind == RowKind::Captions ? 2 * height : height;
+        const bool leads = kind == RowKind::Captions && row + 1 < page_.rows.size();
+        const double needed = height + (leads ? HeightOf(page_.rows[row + 1], layout_) : 0);
         if (y_ + needed > bottom_ && y_ > Top())
             NewPage();
         if (kind == RowKind::Captions) {
