@@ -10,6 +10,8 @@
 #include "support/ProgramFolder.h"
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 #include <regex>
 #include <set>
 
@@ -38,13 +40,18 @@ bool IsSound(const ItemRecord& item) {
            std::includes(known.begin(), known.end(), codes.begin(), codes.end());
 }
 
-// The names of all items, which no two share.
-std::set<std::string> AllItems() {
-    std::set<std::string> all;
+// What every item costs in Pfennig and weighs, by its name, which no two items share.
+std::map<std::string, std::pair<double, double>, std::less<>> AllItems() {
+    std::map<std::string, std::pair<double, double>, std::less<>> all;
     for (const std::string& category : ReadCategoryNames(disk).names)
         for (const ItemRecord& item : ItemsOf(category)) {
+            const int unit = static_cast<int>(std::string("PHSD").find(item[PriceField].back()));
+            const double pfennig = std::stod(item[PriceField]) * std::pow(10, unit);
+            const double weight = std::strtod(item[WeightField].c_str(), nullptr);
             EXPECT_TRUE(IsSound(item)) << category << ": " << item[NameField];
-            EXPECT_TRUE(all.emplace(ItemName(ViewOf(item))).second) << item[NameField];
+            EXPECT_TRUE(
+                all.try_emplace(std::string(ItemName(ViewOf(item))), pfennig, weight).second)
+                << category << ": " << item[NameField];
         }
     return all;
 }
@@ -69,6 +76,31 @@ TEST(StarterData, IsWrittenInTheCodePageAndTheFirstStartImportsNothing) {
     EXPECT_TRUE(faults.empty());
     for (const std::string_view name : FixedCategories())
         EXPECT_EQ(ReadCategoryFile(copy, name).records.size(), ItemsOf(name).size()) << name;
+}
+
+// One is worth at least `least` and at most `most` times the other, Unze for Unze if told.
+TEST(StarterData, PricesHangTogether) {
+    const auto all = AllItems();
+    struct {
+        std::string_view one, other;
+        double least, most;
+        bool byWeight;
+    } const relations[] = {
+        {"Mehl, ein Beutel", "Weizen, fünf Säcke"_ansi, 1.2, 5, true},
+        {"Roggenbrot, Laib", "Mehl, ein Beutel", 1.1, 3, true},
+        {"Salz, ein Sack", "Salz, ein Säckchen"_ansi, 0.2, 1, true},
+        {"Käseräder, zehn"_ansi, "Bergkäse, ein Stück"_ansi, 0.2, 1, true},
+        {"Goldkette", "Silber, ein Barren", 10, 40, true},
+        {"Fuchspelzmantel", "Fuchsfell, rot", 2, 50, false},
+        {"Reitpferd", "Reitpferd, ein Tag", 50, 1000, false},
+        {"Langschwert", "Einzelkammer, eine Nacht", 50, 200, false},
+    };
+    for (const auto& [one, other, least, most, byWeight] : relations) {
+        const auto [price, weight] = all.find(one)->second;
+        const auto [otherPrice, otherWeight] = all.find(other)->second;
+        const double times = price / otherPrice * (byWeight ? otherWeight / weight : 1);
+        EXPECT_TRUE(least <= times && times <= most) << one << ": " << times << " " << other;
+    }
 }
 
 TEST(StarterData, EveryTypeHasItsOwnWaresAndAsManyAsOneReads) {

@@ -39,18 +39,6 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
         }
 }
 
-TEST(CategoryFiles, AbsentAndUnreadableAreNotEmpty) {
-    const ProgramFolder program;
-    std::filesystem::create_directory(program.folders.EmporiumFolder() / "Ordner.dat");
-    program.Write("Emporium/ItemKategorien.dat", "");
-    for (const std::string_view name :
-         {"Ordner", "../Emporium/Ordner", "CON", "", "itemKategorien", "Fehlt"}) {
-        const CategoryFile file = ReadCategoryFile(Disk{SystemFiles(), program.folders}, name);
-        EXPECT_EQ(file.CanBeWritten(), name == "Fehlt") << name;
-        EXPECT_EQ(CategoryFaults(name, file).size(), 1U) << name;
-    }
-}
-
 TEST(CategoryFiles, AListShowsAllItsNamesAndIsOnlyChangedIfItsNumberIsTheirs) {
     const struct {
         std::string bytes;

@@ -158,20 +158,5 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
     }
 }
 
-TEST_F(WindowTest, ARefusedKeyLeavesTheSelectionAndTheWheelAClosedList) {
-    Open();
-    Type("txtItem2", "1,5");
-    auto* price = Find<QLineEdit>("txtItem2");
-    price->setSelection(1, 1);
-    QTest::keyClicks(price, ".");
-    EXPECT_EQ(price->text() + price->selectedText(), "1,5,");
-    Pick("cmbItemWert", "5 - Extrem selten");
-    auto* list = Find<QComboBox>("cmbItemWert");
-    QWheelEvent wheel(QPointF(5, 5), list->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(list, &wheel);
-    EXPECT_EQ(list->currentText(), "5 - Extrem selten");
-}
-
 } // namespace
 } // namespace emporium::test

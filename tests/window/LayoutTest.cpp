@@ -98,17 +98,5 @@ TEST_F(WindowTest, NoCaptionOrEntryIsCutOff) {
         EXPECT_TRUE(!label->wordWrap() || label->heightForWidth(label->width()) <= label->height());
 }
 
-TEST_F(WindowTest, TheModesShowTheirPartsOfTheWindow) {
-    Open();
-    const auto visible = [this](const char* name) { return Find(name)->isVisible(); };
-    EXPECT_TRUE(visible("ItemTab") && visible("frmGegenstände"));
-    EXPECT_FALSE(visible("frmShop0") || visible("cmdItemHin") || visible("lvGegenstände"));
-    Click("cmdShopEditor");
-    EXPECT_TRUE(visible("frmShop6") && visible("cmdItemHin") && visible("frmGegenstände"));
-    EXPECT_FALSE(visible("ItemTab") || Find("cmdItemHin")->isEnabled());
-    Click("cmdItemEditor");
-    EXPECT_TRUE(visible("ItemTab") && !visible("cmdItemHin"));
-}
-
 } // namespace
 } // namespace emporium::test
