@@ -123,8 +123,7 @@ bool SameFile(const Path& one, const Path& other) {
 }
 
 std::error_code OpenToWrite(const Path& file, int flags, Handle& handle) {
-    constexpr mode_t mode = 0666;
-    handle = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, mode);
+    handle = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, 0666);
     return ErrorOf(handle);
 }
 
@@ -152,9 +151,8 @@ std::error_code Close(Handle handle) {
 
 std::error_code CopyMode(const Path& from, const Path& to) {
     struct stat status {};
-    if (const auto error = ErrorOf(::stat(from.c_str(), &status)))
-        return error;
-    return ErrorOf(::chmod(to.c_str(), status.st_mode & 07777U));
+    const auto error = ErrorOf(::stat(from.c_str(), &status));
+    return error ? error : ErrorOf(::chmod(to.c_str(), status.st_mode & 07777U));
 }
 
 std::error_code Rename(const Path& from, const Path& to) {
@@ -180,8 +178,7 @@ std::error_code FlushFolder(const Path& folder) {
 }
 
 std::error_code CreateFolder(const Path& folder) {
-    constexpr mode_t mode = 0777;
-    return Unless(std::errc::file_exists, ErrorOf(::mkdir(folder.c_str(), mode)));
+    return Unless(std::errc::file_exists, ErrorOf(::mkdir(folder.c_str(), 0777)));
 }
 
 std::shared_ptr<void> Keep(int descriptor) {
@@ -205,11 +202,10 @@ FolderClaim Claim(const Path& folder) {
 
 // False for a file that its last holder has removed.
 bool StillStands(int descriptor, const Path& file) {
-    struct stat opened {};
-    struct stat standing {};
-    return ::fstat(descriptor, &opened) == 0 && opened.st_nlink > 0 &&
-           ::lstat(file.c_str(), &standing) == 0 && opened.st_dev == standing.st_dev &&
-           opened.st_ino == standing.st_ino;
+    struct stat opened {
+    }, standing{};
+    return ::fstat(descriptor, &opened) == 0 && ::lstat(file.c_str(), &standing) == 0 &&
+           opened.st_dev == standing.st_dev && opened.st_ino == standing.st_ino;
 }
 
 // Network disks lock a file for all machines, but a folder for each alone.
@@ -220,10 +216,9 @@ std::error_code TryToLock(const Path& file, std::shared_ptr<void>& held) {
     const int descriptor = static_cast<int>(handle);
     held = Keep(descriptor);
     const auto error = ErrorOf(::flock(descriptor, LOCK_EX | LOCK_NB));
-    const bool taken = error == std::errc::operation_would_block;
-    return taken || !StillStands(descriptor, file)
-               ? std::make_error_code(std::errc::device_or_resource_busy)
-               : std::error_code(); // locked, or on a disk that knows no locks
+    if (error == std::errc::operation_would_block || !StillStands(descriptor, file))
+        return std::make_error_code(std::errc::device_or_resource_busy);
+    return {}; // locked, or on a disk that knows no locks
 }
 
 std::error_code Lock(const Path& folder, std::shared_ptr<void>& lock) {
