@@ -7,7 +7,7 @@ function(compile_in_pieces)
         qpixmapcache.cpp qpkmhandler.cpp qplatformintegrationfactory.cpp qsidebar.cpp
         qsimd.cpp qstring.cpp qteamcitylogger.cpp qunicodetools.cpp qurlrecode.cpp
         qversiontagging.cpp qwindowsfontengine.cpp qwindowspointerhandler.cpp
-        qwindowsysteminterface.cpp removed_api.cpp)
+        qwindowsprintersupport.cpp qwindowsysteminterface.cpp removed_api.cpp)
     foreach(library IN ITEMS
             Core Gui Widgets PrintSupport Test BundledHarfbuzz QWindowsIntegrationPlugin)
         get_target_property(folder ${library} SOURCE_DIR)
