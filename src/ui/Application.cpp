@@ -39,7 +39,7 @@ QPalette LightPalette() {
 // The size at which every caption and entry fits its place at scale factor 1. The first family is
 // one that the system has: for another, Qt would search all fonts.
 QFont WindowFont(const QString& family) {
-    QFont font({family, "Arial", "Sans Serif"});
+    QFont font({family, "Liberation Sans", "Arial", "Sans Serif"});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(11);
     return font;
