@@ -21,7 +21,7 @@ protected:
     QStringList folders = QApplication::arguments().mid(1);
 
     QString Output(const QString& name) const {
-        return QDir(folders.value(1)).absoluteFilePath(name);
+        return QFileInfo(folders.value(1) + '/' + name).absoluteFilePath();
     }
 
     void Picture(QWidget& widget, const QString& name) const {
