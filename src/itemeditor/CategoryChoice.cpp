@@ -35,6 +35,8 @@ void AddToView(ItemEditor& editor, const std::string& name, const CategoryFile& 
 std::vector<std::string> NamesOfView(const ItemEditor& editor, const Platform& platform,
                                      std::vector<std::string>& faults) {
     const std::string chosen = editor.cmbKategorien.Text();
+    if (chosen.empty()) // the category has gone from the list meanwhile
+        return {};
     if (chosen != AllCategories)
         return {chosen};
     CategoryList list = ReadCategoryNames(platform.disk);
