@@ -97,9 +97,7 @@ Outcome MakeListAnew(ItemEditor& editor, const Disk& disk) {
 bool Change(ItemEditor& editor, const Platform& platform, const std::function<Outcome()>& change) {
     const Outcome outcome = InTurn(platform.disk, change);
     UpdateItemButtons(editor);
-    if (!outcome.text.empty())
-        platform.ShowMessage(outcome.text);
-    return outcome.stands;
+    return Tell(platform, outcome);
 }
 
 // False if there is no list and the user does not want one.

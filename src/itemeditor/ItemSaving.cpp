@@ -92,9 +92,7 @@ void SaveOutsideView(ItemEditor& editor, const Platform& platform, const ItemRec
             return {false, std::move(refusal)};
         return WriteChanges(disk, changes, SavingWords.failed);
     });
-    if (!outcome.text.empty())
-        platform.ShowMessage(outcome.text);
-    if (outcome.stands)
+    if (Tell(platform, outcome))
         ChooseCategory(editor, platform, editor.cmbItemKategorien.Selection());
 }
 

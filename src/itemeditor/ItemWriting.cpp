@@ -108,10 +108,9 @@ bool WriteRow(ItemEditor& editor, const Platform& platform, const RowChange& cha
         const Outcome outcome = InTurn(disk, [&] {
             return CompareAndWrite(editor, disk, change, words, more, accepted, foreign);
         });
-        if (!outcome.text.empty())
-            platform.ShowMessage(outcome.text);
+        const bool stands = Tell(platform, outcome);
         if (!foreign)
-            return outcome.stands;
+            return stands;
         const std::string& name = editor.FileAt(change.home).name;
         if (!platform.AskYesNo({name + std::string(words.question), BoxIcon::Warning, true})) {
             ReloadItems(editor, platform);

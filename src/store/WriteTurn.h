@@ -2,7 +2,7 @@
 // writes them holds the turn meanwhile, against other copies of the program, on other machines too.
 #pragma once
 
-#include "base/Disk.h"
+#include "base/Platform.h"
 #include "files/FileWriting.h"
 
 #include <functional>
@@ -22,6 +22,9 @@ struct [[nodiscard]] Outcome {
 /// no box may open. What that write has left to tell stands above the work's text. If the turn
 /// can't be had the work is not done, and the text says why.
 Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work);
+
+/// Opens the outcome's box if there is something to tell; true if what was wanted stands.
+bool Tell(const Platform& platform, const Outcome& outcome);
 
 /// Writes files of the categories' folder, see WriteFiles; the caller has the turn. `what` begins
 /// the text of a failure: what could not be done.
