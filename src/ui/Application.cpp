@@ -5,11 +5,13 @@
 #include "ui/WindowStyle.h"
 
 #include <QFont>
+#include <QFontMetrics>
 #include <QIcon>
 #include <QLocale>
 #include <QPalette>
 #include <QSettings>
 #include <QStyle>
+#include <QThreadPool>
 #include <QTranslator>
 
 namespace emporium::ui {
@@ -52,6 +54,12 @@ void PrepareApplication() {
 }
 
 void SetUpApplication(QApplication& application) {
+    const bool windows = QApplication::style()->objectName().startsWith("windows");
+    const QFont font = WindowFont(windows ? "Microsoft Sans Serif" : "Liberation Sans");
+    QApplication::setFont(font);
+    // The system's fonts are listed beside the rest of the start.
+    QThreadPool::globalInstance()->start([font] { QFontMetrics(font).height(); });
+
     // No display name: the desktop would append it to the window's caption.
     QApplication::setApplicationName(ToQString(ProgramTitle));
     QApplication::setWindowIcon(QIcon(":/orvan-emporium3-256.png"));
@@ -62,7 +70,6 @@ void SetUpApplication(QApplication& application) {
     if (translator->load(":/qtbase_de.qm"))
         QApplication::installTranslator(translator);
 
-    const bool windows = QApplication::style()->objectName().startsWith("windows");
     if (!windows) {
         QApplication::setStyle(new WindowStyle);
         // A desktop's own file dialog would speak the desktop's language.
@@ -71,7 +78,6 @@ void SetUpApplication(QApplication& application) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     }
     QApplication::setPalette(LightPalette());
-    QApplication::setFont(WindowFont(windows ? "Microsoft Sans Serif" : "Liberation Sans"));
 }
 
 } // namespace emporium::ui

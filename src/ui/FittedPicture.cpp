@@ -26,13 +26,19 @@ QImage Decode(QByteArray& bytes, QSize pixels) {
     return largest;
 }
 
-QPixmap Fit(const QImage& image, QSize pixels) {
-    QImage fitted = image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    if (fitted.size() != pixels) // a copy takes memory of its own
-        fitted =
-            fitted.copy((fitted.width() - pixels.width()) / 2,
-                        (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
-    return QPixmap::fromImage(fitted);
+QImage Fit(const QImage& image, QSize pixels) {
+    if (image.isNull())
+        return image;
+    const QImage fitted =
+        image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    if (fitted.size() == pixels) // a copy takes memory of its own
+        return fitted;
+    return fitted.copy((fitted.width() - pixels.width()) / 2,
+                       (fitted.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+}
+
+QSize PixelsOf(const QWidget& widget, QSize place) {
+    return (QSizeF(place) * widget.devicePixelRatioF()).toSize();
 }
 
 } // namespace
@@ -42,16 +48,25 @@ void FittedPicture::SetSource(QByteArray bytes) {
     pixels_ = {};
 }
 
+void FittedPicture::Prepare(const QWidget& widget, QSize place) {
+    Begin(PixelsOf(widget, place), std::launch::async);
+}
+
 const QPixmap& FittedPicture::For(const QWidget& widget, QSize place) {
-    const qreal scale = widget.devicePixelRatioF();
-    const QSize pixels = (QSizeF(place) * scale).toSize();
-    if (pixels != pixels_) {
-        const QImage image = Decode(source_, pixels);
-        fitted_ = image.isNull() ? QPixmap() : Fit(image, pixels);
-        fitted_.setDevicePixelRatio(scale);
-        pixels_ = pixels;
+    Begin(PixelsOf(widget, place), std::launch::deferred);
+    if (decoding_.valid()) {
+        fitted_ = QPixmap::fromImage(decoding_.get());
+        fitted_.setDevicePixelRatio(widget.devicePixelRatioF());
     }
     return fitted_;
+}
+
+void FittedPicture::Begin(QSize pixels, std::launch how) {
+    if (pixels == pixels_)
+        return;
+    pixels_ = pixels;
+    decoding_ = std::async(
+        how, [source = source_, pixels]() mutable { return Fit(Decode(source, pixels), pixels); });
 }
 
 } // namespace emporium::ui

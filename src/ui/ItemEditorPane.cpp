@@ -9,6 +9,7 @@
 #include "ui/AvailabilityPage.h"
 #include "ui/Build.h"
 #include "ui/ListMenu.h"
+#include "ui/Pictures.h"
 #include "ui/Text.h"
 
 #include <QLabel>
@@ -198,6 +199,8 @@ void ItemEditorPane::BuildProperties() {
 
     auto* picture = Place(Named(new Picture(page), "imgItem"), 105, 3630, wide, 2130);
     picture->setAccessibleName("Blick in einen Laden");
+    LoadPicture(*picture, session_.platform.disk);
+    picture->Prepare(picture->size());
 }
 
 void ItemEditorPane::BuildNotice() {

@@ -34,28 +34,18 @@ QPoint CentredPlace(const QWidget& window) {
 MainWindow::MainWindow(const std::filesystem::path& programFolder)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      dice_(SecondsSinceMidnight), controls_(new QWidget(this)),
-      browser_(Place(Named(new HtmlView(controls_), "Browser"), 120, 600, 2775, 4815)),
-      itemEditor_(new ItemEditorPane(controls_, session_)),
-      shopEditor_(new ShopEditorPane(controls_, session_)),
-      generator_(new GeneratorDialog(this, session_)),
-      itemBackground_(Named(new Picture(this), "imgTempItemEditor")),
-      shopBackground_(Named(new Picture(this), "imgTempShopEditor")) {
+      dice_(SecondsSinceMidnight) {
     setObjectName("frmEmporiumMain");
     setFixedSize(Px(9480), Px(6795));
     move(CentredPlace(*this));
-    controls_->resize(size());
-    browser_->hide();
-    itemBackground_->hide();
-    shopBackground_->hide();
-    BuildModes();
-
     ConnectPlatform(programFolder);
+    BuildBackgrounds();
+    BuildControls();
     connect(browser_, &HtmlView::navigateComplete, this,
             [this] { session_.Do([this] { ReportPage(session_.state.print); }); });
     session_.mirror.Bind([this] { MirrorWindow(); });
     session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
-    LoadPictures(*this, session_.platform.disk);
+    LoadButtonPictures(*this, session_.platform.disk);
     itemEditor_->FocusCategories();
 }
 
@@ -99,6 +89,30 @@ MainWindow::~MainWindow() {
     session_.mirror = Mirror();
     delete generator_;
     delete controls_;
+}
+
+// The one that is seen first is decoded while the controls are built.
+void MainWindow::BuildBackgrounds() {
+    const auto background = [this](const char* name) {
+        auto* picture = Named(new Picture(this), name);
+        picture->hide();
+        LoadPicture(*picture, session_.platform.disk);
+        return picture;
+    };
+    itemBackground_ = background("imgTempItemEditor");
+    shopBackground_ = background("imgTempShopEditor");
+    itemBackground_->Prepare(size());
+}
+
+void MainWindow::BuildControls() {
+    controls_ = new QWidget(this);
+    controls_->resize(size());
+    browser_ = Place(Named(new HtmlView(controls_), "Browser"), 120, 600, 2775, 4815);
+    browser_->hide();
+    itemEditor_ = new ItemEditorPane(controls_, session_);
+    new ShopEditorPane(controls_, session_);
+    generator_ = new GeneratorDialog(this, session_);
+    BuildModes();
 }
 
 void MainWindow::BuildModes() {

@@ -31,6 +31,8 @@ protected:
 
 private:
     void ConnectPlatform(const std::filesystem::path& programFolder);
+    void BuildBackgrounds();
+    void BuildControls();
     void BuildModes();
     void MirrorWindow();
     void SetBusy(bool busy);
@@ -41,13 +43,12 @@ private:
     bool closed_ = false;
     bool framed_ = false; // placed with the frame that the desktop gave it
 
-    QWidget* controls_;         // everything that takes input
-    QPointer<QWidget> focused_; // before they were disabled
-    HtmlView* browser_;
-    ItemEditorPane* itemEditor_;
-    ShopEditorPane* shopEditor_;
-    GeneratorDialog* generator_;
-    Picture *itemBackground_, *shopBackground_;
+    Picture *itemBackground_ = nullptr, *shopBackground_ = nullptr;
+    QWidget* controls_ = nullptr; // everything that takes input
+    QPointer<QWidget> focused_;   // before they were disabled
+    HtmlView* browser_ = nullptr;
+    ItemEditorPane* itemEditor_ = nullptr;
+    GeneratorDialog* generator_ = nullptr;
     Mode backgroundMode_ = Mode::ItemEditor; // that was painted last
 };
 

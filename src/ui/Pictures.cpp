@@ -1,7 +1,5 @@
 #include "ui/Pictures.h"
 
-#include "ui/Widgets.h"
-
 #include <QHash>
 
 namespace emporium::ui {
@@ -43,7 +41,7 @@ QByteArray BytesOf(const Disk& disk, const char* file) {
 
 } // namespace
 
-void LoadPictures(const QWidget& window, const Disk& disk) {
+void LoadButtonPictures(const QWidget& window, const Disk& disk) {
     QHash<QByteArray, QByteArray> read;
     for (const Shown& shown : ButtonPictures) {
         auto known = read.find(shown.file);
@@ -51,8 +49,12 @@ void LoadPictures(const QWidget& window, const Disk& disk) {
             known = read.insert(shown.file, BytesOf(disk, shown.file));
         window.findChild<PictureButton*>(shown.control)->SetPicture(*known);
     }
+}
+
+void LoadPicture(Picture& picture, const Disk& disk) {
     for (const Shown& shown : LargePictures)
-        window.findChild<Picture*>(shown.control)->SetPicture(BytesOf(disk, shown.file));
+        if (picture.objectName() == shown.control)
+            picture.SetPicture(BytesOf(disk, shown.file));
 }
 
 } // namespace emporium::ui

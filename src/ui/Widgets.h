@@ -71,6 +71,9 @@ public:
     /// The bytes of an image file.
     void SetPicture(const QByteArray& bytes);
 
+    /// Begins to decode the image for a place of that size.
+    void Prepare(QSize place) { picture_.Prepare(*this, place); }
+
     /// The image as it fills a place of that size; null if there is none.
     const QPixmap& FittedTo(QSize place) { return picture_.For(*this, place); }
 
