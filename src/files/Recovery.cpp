@@ -91,9 +91,13 @@ void RemoveTemporary(const FileLayer& files, const FoundStep& step) {
         files.remove(step.temporary);
 }
 
-// A step follows only where those before it stand: a removal could take the last copy of a record.
+// The announcement has to be on the disk before the first step, and the program may have ended
+// before it was. A step follows only where those before it stand: a removal could take the last
+// copy of a record.
 Recovery Carry(const FileLayer& files, const fs::path& folder,
                const std::vector<FoundStep>& steps) {
+    if (const auto error = files.flushFolder(folder))
+        return {FileFailure{folder, error}, {}};
     Recovery recovery;
     for (const FoundStep& step : steps) {
         if (step.progress == Progress::Foreign)

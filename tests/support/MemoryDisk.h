@@ -1,5 +1,5 @@
 // A disk in memory. Any of its calls can fail or be the last one, and a power cut takes what was
-// not flushed: contents, names or both.
+// not flushed: contents, names or both, or of the names all but removals.
 #pragma once
 
 #include "base/Variablen.h"
@@ -42,6 +42,7 @@ public:
     int failingFrom = 1 << 30; // so do all from this one on
     int lastCall = 1 << 30;    // the program ends in this one
     int calls = 0;
+    bool removesAtOnce = false; // reach the disk before what was done earlier
     std::vector<Node> nodes;
     Names names, flushedNames; // by path
 
@@ -138,8 +139,8 @@ public:
         };
         files.remove = [this](const Path& file) {
             const auto error = Count();
-            if (!error)
-                names.erase(file.generic_u8string());
+            if (!error && names.erase(file.generic_u8string()) > 0 && removesAtOnce)
+                flushedNames.erase(file.generic_u8string());
             return error;
         };
         files.flushFolder = [this](const Path& folder) { return FlushFolder(folder); };
