@@ -103,8 +103,9 @@ std::optional<Journal> ReadJournal(std::string_view text) {
         ClosingLine(text.substr(0, lastLine + 1)) != text.substr(lastLine + 1))
         return std::nullopt;
     LineReader lines(text.substr(0, lastLine + 1));
-    std::string_view line;
-    if (!lines.Next(line) || line != Heading)
+    std::string_view heading;
+    lines.Next(heading);
+    if (heading != Heading)
         return std::nullopt;
     Journal journal;
     while (!lines.AtEnd())

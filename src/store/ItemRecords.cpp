@@ -40,10 +40,7 @@ std::string WithLinesAt(std::string_view bytes, const RecordView& place, std::st
     bytes = WholeRecords(bytes);
     const auto begin = static_cast<std::size_t>(place.front().data() - bytes.data());
     const auto end = EndOf(place, bytes);
-    std::string text;
-    text.reserve(begin + lines.size() + bytes.size() - end);
-    text.append(bytes.substr(0, begin)).append(lines).append(bytes.substr(end));
-    return text;
+    return std::string(bytes.substr(0, begin)).append(lines).append(bytes.substr(end));
 }
 
 } // namespace

@@ -19,12 +19,13 @@ Outcome CannotLock(const std::filesystem::path& folder, const std::error_code& e
 }
 
 // The notices, then the text, with a line between.
-std::string Told(const std::vector<std::string>& notices, std::string_view text) {
+std::string Told(std::vector<std::string> parts, const std::string& text) {
+    if (!text.empty())
+        parts.push_back(text);
     std::string told;
-    for (const std::string& notice : notices)
-        told.append(notice).append("\n\n");
-    told += text;
-    return text.empty() ? told.substr(0, told.find_last_not_of('\n') + 1) : told;
+    for (const std::string& part : parts)
+        told.append(told.empty() ? "" : "\n\n").append(part);
+    return told;
 }
 
 } // namespace
