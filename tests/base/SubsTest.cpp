@@ -18,12 +18,13 @@ namespace {
 using Texts = std::vector<std::string_view>;
 
 TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
-    const auto text = "vorher=unerreichbar\r\n  [ Großer Krämer ] Rest = egal\r\n"
-                      "  Ware1 =\t Öle und Fette \t\r\n; Ware2=Kommentar\r\n  ;Ware2=auch\n"
-                      "Ware2=Seile;Taue # Netze\n#Ware3=kein Kommentar\r\nWare4=\"  innen  \"\r\n"
-                      "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
-                      "Ware9=\r\nWARE1=zweiter Schlüssel\r\nWare10=a=b\r\nohne Gleichheit\r\n"
-                      "[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi;
+    const auto text =
+        "vorher=unerreichbar\r\n  [ Großer Krämer ] Rest = egal\r\n"
+        "  Ware1 =\t Öle und Fette \t\r\n; Ware2=Kommentar\r\n  ;Ware2=auch\n"
+        "Ware2=Seile;Taue # Netze\n#Ware3=kein Kommentar\r\nWare4=\"  innen  \"\r\n"
+        "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
+        "Ware9=\r\nWARE1=zweiter Schlüssel\r\n[ Großer Krämer\r\nWare10=a=b\r\n"
+        "ohne Gleichheit\r\n[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi;
     const std::pair<std::string_view, std::string_view> values[] = {
         {" wARE1\t", "Öle und Fette"_ansi},
         {"Ware2", "Seile;Taue # Netze"},
@@ -36,6 +37,7 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         {"Ware8", "\""},
         {"Ware10", "a=b"},
         {"Ware11", ""},
+        {"ohne Gleichheit", ""},
         {"vorher", ""}};
     const auto section = " gROßER kRÄMER"_ansi;
     for (const auto& [key, value] : values) {

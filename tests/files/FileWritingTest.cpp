@@ -189,19 +189,22 @@ JournalEntry Entry(const char* name, std::optional<std::string> before, std::str
 }
 
 TEST(Recovery, LaterWorkStaysAndNothingBehindItFollows) {
-    Writing here;
-    here.disk.Write("Emporium/a.dat.orvan-neu0", "neu a");
-    here.disk.Write("Emporium/b.dat.orvan-neu0", "neu b");
     const JournalEntry removal{"c.dat", "", FingerprintOf("alt c.dat"), FingerprintOf("")};
-    here.disk.Write("Emporium/" + std::string(JournalName),
-                    JournalText({Entry("a.dat", "alt a.dat", "neu a"),
-                                 Entry("b.dat", "war anders", "neu b"), removal}));
-    const Recovery recovery = FinishJournal(here.disk.Files(), here.folder);
-    EXPECT_FALSE(recovery.failure);
-    ASSERT_EQ(recovery.notices.size(), 1U);
-    EXPECT_TRUE(recovery.notices[0].starts_with("b.dat: "));
-    EXPECT_EQ(here.Look(),
-              (State{{"a.dat", "neu a"}, {"b.dat", "alt b.dat"}, {"c.dat", "alt c.dat"}}));
+    for (const auto kind : {FileStatus::Kind::File, FileStatus::Kind::Link}) {
+        Writing here;
+        here.disk.Put(here.folder / "b.dat", "later", kind);
+        here.disk.Write("Emporium/a.dat.orvan-neu0", "neu a");
+        here.disk.Write("Emporium/b.dat.orvan-neu0", "neu b");
+        here.disk.Write("Emporium/" + std::string(JournalName),
+                        JournalText({Entry("a.dat", "alt a.dat", "neu a"),
+                                     Entry("b.dat", "alt b.dat", "neu b"), removal}));
+        const Recovery recovery = FinishJournal(here.disk.Files(), here.folder);
+        EXPECT_FALSE(recovery.failure);
+        ASSERT_EQ(recovery.notices.size(), 1U);
+        EXPECT_TRUE(recovery.notices[0].starts_with("b.dat: "));
+        EXPECT_EQ(here.Look(),
+                  (State{{"a.dat", "neu a"}, {"b.dat", "later"}, {"c.dat", "alt c.dat"}}));
+    }
 }
 
 TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
@@ -209,13 +212,14 @@ TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
     const auto foreign = [](const char* target, const char* temporary) {
         return JournalText({{target, temporary, std::nullopt, FingerprintOf("neu")}});
     };
-    const auto sealed = [](const std::string& lines) {
-        const std::string whole = "orvan-journal 2\n" + lines;
+    const auto sealed = [](const std::string& lines, const char* heading = "orvan-journal 2\n") {
+        const std::string whole = heading + lines;
         return whole + std::to_string(FingerprintOf(whole).checksum) + "\n";
     };
     for (const std::string& journal :
          {text /* without the new contents */, text.substr(1), std::string(),
-          sealed("x.dat\n\n-\n-\n-\n-\n"), sealed("x.dat\n\n1\nx\n1\n1\n"), sealed("x.dat\n\n"),
+          sealed("", "orvan-journal 1\n"), sealed("x.dat\n\n-\n-\n-\n-\n"),
+          sealed("x.dat\n\n1\nx\n1\n1\n"), sealed("x.dat\n\n"),
           foreign("../b.dat", "../b.dat.orvan-neu0"), foreign("/x.dat", "/x.dat.orvan-neu0"),
           foreign("x.dat", "c.dat"), foreign("x.dat", "b.dat.orvan-neu0"), foreign("..", "")}) {
         Writing here;

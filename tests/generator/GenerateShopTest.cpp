@@ -62,7 +62,7 @@ TEST_F(GenerateShops, EachRecordHasItsOwnThrowsInFileOrder) {
     script.Throw({1, 17, 6, 16, 4, 16, 1, 2, 1});
     Run();
     EXPECT_EQ(script.sides, (std::vector<int>{6, 20, 6, 20, 6, 20, 6, 6, 20}));
-    EXPECT_EQ(shop.cmbShopRegion.toolTip, "Zinnen");
+    EXPECT_EQ(shop.cmbShopRegion.toolTip + dialog.lblRegionen.caption, "ZinnenZinnen");
     std::string rows;
     for (const auto& row : shop.lvLaden.rows)
         for (const std::string_view text :

@@ -84,6 +84,9 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
     world.script.ExpectText(NamePrompt, "Zelte");
     world.script.ExpectMessage("Ein anderes Fenster des Programms schreibt gerade.");
     NewCategory(world.editor, world.script.platform);
+    world.View("Abakus");                                    // needs no turn
+    ChooseCategory(world.editor, world.script.platform, -1); // a category that has left the list
+    EXPECT_EQ(world.Shown(), "");
     const auto journal = world.program.folders.EmporiumFolder() / JournalName;
     world.program.Put(journal, "");
     world.script.ExpectMessage("Ein früherer Schreibvorgang"_ansi);

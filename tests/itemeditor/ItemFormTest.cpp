@@ -36,7 +36,7 @@ TEST(ItemForm, NumbersTakeOneSignAtTheStartAndOneSeparatorBehindIt) {
 TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
     EditorAtWork world;
     const std::string sound = Lines({"Dolch2", "", "3S", "", ""});
-    world.program.Write("Emporium/Abakus.dat", sound + Lines({"Schwert", "", "12", "", ""}));
+    world.program.Write("Emporium/Abakus.dat", sound + "Schwert\r\n\r\n12\r\n\r\nBO|");
     world.script.ExpectMessage("Abakus.dat: Datensätze ohne"_ansi);
     world.View("Abakus");
     world.Open(0);
@@ -47,7 +47,7 @@ TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
     world.Save();
     world.editor.cmbItemPreis.Select(0);
     world.Save();
-    EXPECT_EQ(world.File("Abakus"), sound + Lines({"Schwert1", "", "12D", "", ""}));
+    EXPECT_EQ(world.File("Abakus"), sound + Lines({"Schwert1", "", "12D", "", "BO|"}));
 }
 
 TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {

@@ -1,4 +1,5 @@
 #include "names/GenNameSub.h"
+#include "shopeditor/ShopFields.h"
 #include "support/ProgramFolder.h"
 #include "support/ScriptedPlatform.h"
 #include "text/Ansi.h"
@@ -84,6 +85,20 @@ TEST_F(GenNames, BlanksGoOnlyWhereTheCustomSaysSoAndAGivenSexIsNotThrownFor) {
     EXPECT_EQ(Draw("Thorwaler", {1, 1, 1}, sex), " Ada\t  Ada\t  son");
     EXPECT_EQ(Draw("Nivesen", {1, 1}, sex), " Ada\t   von  Ada\t  s Stamm");
     EXPECT_EQ(Draw("Elfen", {1, 1, 1}, sex), " Ada\t  A  B ");
+}
+
+TEST_F(GenNames, AnOwnerIsDrawnForTheChosenRaceAndAMissingListTold) {
+    ShopEditor shop;
+    ChooseRace(shop, -1);
+    EXPECT_FALSE(shop.cmdGenName.enabled);
+    ChooseRace(shop, 3);
+    EXPECT_TRUE(shop.cmdGenName.enabled);
+    script.Throw({8});
+    DrawOwnerName(shop, script.platform);
+    WriteList("Mohas", "", 0);
+    script.ExpectMessage("Es konnte kein Name gezogen werden");
+    DrawOwnerName(shop, script.platform);
+    EXPECT_EQ(shop.txtBesitzerName.text, "Mo8");
 }
 
 } // namespace

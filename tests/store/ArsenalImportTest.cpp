@@ -68,12 +68,13 @@ TEST_F(ArsenalImport, OnlyEverAddsAndNothingASecondTime) {
         {"without its last line", axe + bow.substr(0, bow.size() - 8), "", Item("Axt")},
         {"two of one name", axe + axe, "", Item("Axt") + Item("Axt")},
         {"a name among the other lines", Source("Meine"), raised, Item("Meine")},
-        {"an unknown unit", Source("Pfeil", "taler") + axe, "", Item("Axt"),
+        {"an unknown unit", Source("Pfeil", "taler"), "", "",
          "Arsenal, Fernwaffen.dat: 1 Einträge ohne Namen oder Währung wurden übergangen: "
          "Pfeil."_ansi},
-        {"neither unit nor name", Source("Pfeil", "") + Source(""), "", "",
-         "Arsenal, Fernwaffen.dat: 2 Einträge ohne Namen oder Währung wurden übergangen: Pfeil, "
-         "ohne Namen."_ansi},
+        {"neither unit nor name", Source("Pfeil", "") + Source("") + axe + Source("") + Source(""),
+         "", Item("Axt"),
+         "Arsenal, Fernwaffen.dat: 4 Einträge ohne Namen oder Währung wurden übergangen: "
+         "Pfeil, ohne Namen, ohne Namen."_ansi},
         {"a category that is cut off", axe, "Rest1\r\n", "",
          "Fernwaffen.dat: Der letzte Datensatz ist nicht vollständig."_ansi},
         {"LF ends in the category", bow + axe, axeLf, bogenLf},

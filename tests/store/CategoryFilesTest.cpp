@@ -22,7 +22,7 @@ TEST(CategoryFiles, WhatIsNotAWholeRecordIsToldAndKeepsTheFileFromBeingWritten) 
                  {";80;3S;lang;BO|;Öse 22;;1P;;;", 2, true, 1},
                  {"Seil1;80;;lang;BO|;Öse 22;;;;;", 2, true, 1},
                  {"Seil;80;3S;lang;BO|;Öse 22;;1;;;", 2, true, 1},
-                 {"Seil7;80;3X;lang;BO|;Öse 22;;1p;;;", 2, true, 0},
+                 {"Seil0;80;3X;lang;BO|;Öse 29;;1p;;;", 2, true, 0},
                  {"Seil1;80;;lang;BO|;Rest", 1, false, 2}};
     const ProgramFolder program;
     for (const auto& c : cases)
