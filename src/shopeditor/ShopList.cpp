@@ -98,8 +98,7 @@ void SetShopRowQuantity(ShopEditor& shop, const Platform& platform) {
     const std::string answer = platform.AskText("Bitte gebt eine Zahl an, wie oft der Gegenstand "
                                                 "im Shop vorhanden sein soll.",
                                                 "bisher " + QuantityOf(*row));
-    row = CurrentRow(shop);
-    if (answer.empty() || !row)
+    if (answer.empty())
         return;
     SetQuantity(*row, answer);
     shop.lvLaden.toolTip = row->WithQuantity;
@@ -112,8 +111,7 @@ void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
         return;
     const std::string answer =
         platform.AskText("Bitte gebt den neuen Preis ein.", "bisher " + row->Price);
-    row = CurrentRow(shop);
-    if (answer.empty() || !row)
+    if (answer.empty())
         return;
     row->Price = std::string(answer).append(row->Unit);
     PlaceCurrentRow(shop.lvLaden, ShopPriceColumn);

@@ -40,7 +40,6 @@ char FoldByte(char byte) {
 
 std::u8string ToUtf8(std::string_view text) {
     std::u8string out;
-    out.reserve(text.size());
     for (const char byte : text)
         AppendUtf8(out, ansi::Decode(byte));
     return out;
@@ -48,7 +47,6 @@ std::u8string ToUtf8(std::string_view text) {
 
 std::string FromUtf8(std::u8string_view text) {
     std::string out;
-    out.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
         const unsigned lead = text[i];
         const std::size_t size = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
