@@ -23,7 +23,7 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         "  Ware1 =\t Öle und Fette \t\r\n; Ware2=Kommentar\r\n  ;Ware2=auch\n"
         "Ware2=Seile;Taue # Netze\n#Ware3=kein Kommentar\r\nWare4=\"  innen  \"\r\n"
         "Ware5='a' und 'b'\r\nWare6=\"offen\r\nWare7='gemischt\"\r\nWare8=\"\r\n"
-        "Ware9=\r\nWARE1=zweiter Schlüssel\r\n[ Großer Krämer\r\nWare10=a=b\r\n"
+        "Ware9=\"\"\r\nWARE1=zweiter Schlüssel\r\n[ Großer Krämer\r\nWare10=a=b\r\n"
         "ohne Gleichheit\r\n[GROßER KRÄMER]\r\nWare11=zweiter Abschnitt\r\n[Ärmel]\nÜ=letzte Zeile"_ansi;
     const std::pair<std::string_view, std::string_view> values[] = {
         {" wARE1\t", "Öle und Fette"_ansi},
@@ -35,6 +35,7 @@ TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
         {"Ware6", "\"offen"},
         {"Ware7", "'gemischt\""},
         {"Ware8", "\""},
+        {"Ware9", ""},
         {"Ware10", "a=b"},
         {"Ware11", ""},
         {"ohne Gleichheit", ""},

@@ -249,5 +249,15 @@ TEST(Journal, OnlyAWholeJournalIsRead) {
     EXPECT_FALSE(ReadJournal(text + text));
 }
 
+TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
+    std::vector<std::string> faults;
+    std::string text;
+    for (const char fault : std::string("ABCDEFGHIJKL"))
+        text += (text.empty() ? "" : "\n") + faults.emplace_back(1, fault);
+    EXPECT_EQ(FaultsText(faults), text);
+    faults.resize(14);
+    EXPECT_EQ(FaultsText(faults), text + "\n... und 2 weitere Meldungen.");
+}
+
 } // namespace
 } // namespace emporium::test

@@ -73,6 +73,7 @@ TEST(SystemFiles, TellsWhatACallCameTo) {
     const fs::path file = folder / "a.dat";
     const fs::path nowhere = folder / "fehlt" / "a.dat";
     program.Write("Emporium/a.dat", "lang");
+    const auto open = files.entries("/proc/self/fd");
     FileLayer::Handle handle = 0;
     std::size_t written = 0;
     std::shared_ptr<void> lock;
@@ -93,9 +94,12 @@ TEST(SystemFiles, TellsWhatACallCameTo) {
         {files.flushFolder(nowhere), std::errc::no_such_file_or_directory},
         {files.flushFolder("/proc"), {}}, // knows no flushing
         {files.createFolder(folder), {}},
-        {files.lock(nowhere, lock), std::errc::no_such_file_or_directory}};
+        {files.lock(nowhere, lock), std::errc::no_such_file_or_directory},
+        {files.lock(folder, lock), {}}};
     for (const auto& [error, expected] : calls)
         EXPECT_EQ(error, expected) << error.message();
+    lock.reset();
+    EXPECT_EQ(files.entries("/proc/self/fd"), open);
     EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
 }
 

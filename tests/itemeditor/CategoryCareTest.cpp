@@ -25,10 +25,12 @@ TEST(CategoryCare, WhatAnotherProgramDidToTheCategoriesStands) {
     EXPECT_EQ(world.editor.cmbKategorien.Entries(),
               (std::vector<std::string>{"Abakus", "Alles", "Fremd", "Kleidung", "Zelte"}));
 
-    world.FormCategory("Fremd"); // unknown to the view, and without a file
-    world.Fill(Hat);
-    world.Save();
-    EXPECT_EQ(world.File("Fremd"), RecordLines({Hat}));
+    for (const std::string name : {"Zelte", "Fremd"}) { // unknown to the view, and without a file
+        world.FormCategory(name);
+        world.Fill(Hat);
+        world.Save();
+        EXPECT_EQ(world.File(name), RecordLines({Hat}));
+    }
 
     world.program.Write("Emporium/ItemKategorien.dat", "1\nKleidung\n");
     world.program.Remove("Emporium/Zelte.dat");

@@ -43,6 +43,7 @@ TEST(ItemForm, ALineWithoutItsMarkIsShownWholeAndWaitsForAChoice) {
     world.Open(1);
     EXPECT_FALSE(world.editor.cmdItemSave.enabled);
     ChooseItemWert(world.editor, 0);
+    EXPECT_TRUE(world.editor.cmdItemSave.enabled);
     world.script.ExpectMessage("Bitte wählt zum Preis"_ansi);
     world.Save();
     world.editor.cmbItemPreis.Select(0);
@@ -81,6 +82,10 @@ TEST(AvailabilityEditor, ShowsTheRegionsOfAStringAndNamesTheLastOneWalked) {
     MoveRegionOut(editor);
     EXPECT_TRUE(RecordOfForm(editor)[AvailabilityField].starts_with("BO|FI|"));
     EXPECT_EQ(editor.lstRegionen.Entries(), std::vector<std::string>{"EL"}) << "moves once";
+    SelectRegion(editor, platform, 0);
+    SelectAvailableRegion(editor, 0);
+    MoveRegionOut(editor);
+    EXPECT_EQ(editor.lstRegionen.Text(), "EL") << "stays chosen behind BO";
 }
 
 } // namespace

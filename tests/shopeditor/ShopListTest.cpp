@@ -20,15 +20,17 @@ protected:
         AddShopRow(shop, MakeShopRow({nameLine, "3", price, "Text", regions}));
     }
 
-    // Name and price of each row, in the order of the list.
-    Texts Rows() const {
+    // Name and price of each row, in the order of the list, which has to tell that they changed.
+    Texts Rows() {
         Texts rows;
         for (const auto& row : shop.lvLaden.rows)
             rows.push_back(std::string(ShopCell(row, ShopTextColumn)) + " " + row.Price);
-        return rows;
+        EXPECT_TRUE(rows == seen || shop.lvLaden.revision > revision);
+        revision = shop.lvLaden.revision;
+        return seen = rows;
     }
 
-    std::string Current() const {
+    std::string Current() {
         const int row = shop.lvLaden.current;
         return row < 0 ? "(none)" : Rows()[static_cast<std::size_t>(row)];
     }
@@ -40,6 +42,8 @@ protected:
 
     ShopEditor shop;
     ScriptedPlatform script;
+    Texts seen;
+    unsigned revision = 0;
 };
 
 TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing) {
@@ -52,9 +56,8 @@ TEST_F(ShopList, ACommandWithoutAChosenRowSaysWhatToChooseAndAnEmptyShopNothing)
     script.ExpectMessage("Bitte wählt zuerst einen Gegenstand aus."_ansi);
     AddItemToShop(shop, items, script.platform);
     items.CurrentItemRow = 0;
-    const unsigned before = shop.lvLaden.revision;
     AddItemToShop(shop, items, script.platform);
-    EXPECT_NE(shop.lvLaden.revision, before);
+    EXPECT_EQ(Rows(), (Texts{"Seil 5H"}));
     EXPECT_TRUE(shop.cmdShopDelete.enabled && shop.cmdShopAnzahl.enabled &&
                 shop.cmbShopPreise.enabled);
     for (int command = 0; command < 3; ++command)
@@ -110,6 +113,7 @@ TEST_F(ShopList, RowsStandSortedByTheTextOfOneColumn) {
     SortShopList(shop, ShopPriceColumn);
     Add("Topf1", "10S");
     Add("Pfanne1", "1S");
+    EXPECT_EQ(shop.lvLaden.reveal.row, 3);
     EXPECT_EQ(Rows(), (Texts{"Schwert 2 100D", std::string("Ähre 10S"_ansi), "Topf 10S",
                              "Pfanne 1S", "Zelt 9S"}));
     EXPECT_EQ(Current(), "Zelt 9S");
@@ -140,6 +144,7 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
                           answer);
         SetShopRowQuantity(shop, script.platform);
         EXPECT_EQ(Current(), std::string("Schwert 2 ") + text + " 7D");
+        EXPECT_EQ(shop.lvLaden.toolTip + " 7D", Current());
     }
     SetPrice("");
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 7D");

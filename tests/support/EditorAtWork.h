@@ -102,12 +102,12 @@ public:
 
     /// Types and picks all of a record; a mark that is none leaves its list without a choice.
     void Fill(const ItemRecord& record) {
+        ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
         EditItemText(editor, NameText, std::string(WithoutLast(record[NameField])));
         EditItemText(editor, WeightText, record[WeightField]);
         EditItemText(editor, PriceText, std::string(WithoutLast(record[PriceField])));
         EditItemText(editor, DescriptionText, record[DescriptionField]);
         ChooseItemUnit(editor, PlaceOfMark("DSHP", record[PriceField]));
-        ChooseItemWert(editor, PlaceOfMark("12345", record[NameField]));
         ReturnAllRegions(editor);
         for (const std::string_view code : AvailabilityCodes(record[AvailabilityField])) {
             SelectRegion(editor, script.platform, PlaceOf(editor.lstRegionen, code));
