@@ -3,9 +3,10 @@
 #include "files/Links.h"
 #include "files/Temporaries.h"
 #include "frame/Version.h"
-#include "itemeditor/CategoryChoice.h"
+#include "itemeditor/CategoryDropDowns.h"
 #include "shopeditor/ShopList.h"
 #include "store/ArsenalImport.h"
+#include "store/CategoryRenaming.h"
 #include "store/WriteTurn.h"
 
 namespace emporium {

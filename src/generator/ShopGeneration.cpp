@@ -1,8 +1,8 @@
 #include "generator/ShopGeneration.h"
 
-#include "base/Subs.h"
 #include "files/FileFailure.h"
 #include "generator/ShopTypes.h"
+#include "generator/WareFiles.h"
 #include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 #include "shopeditor/ShopFields.h"
@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_map>
 #include <utility>
 
 namespace emporium {
@@ -52,34 +51,6 @@ bool PassesRegion(std::string_view availability, std::string_view region, const 
     return RollDice(20) < 20 - 3 * NearestDistance(availability, region);
 }
 
-// A category's text. One that is named again is not read again, and its faults are told once.
-class Categories {
-public:
-    Categories(const Disk& disk, std::vector<std::string>& faults) : disk_(disk), faults_(faults) {}
-
-    SharedText Text(const std::string& name) {
-        SharedText& text = texts_[name];
-        if (!text)
-            text = std::make_shared<const std::string>(Read(name));
-        return text;
-    }
-
-private:
-    std::string Read(const std::string& name) {
-        const auto file = CategoryPath(disk_.folders, name);
-        if (!IsPlainName(name) || !FileExists(disk_.files, file))
-            return {};
-        FileText category = disk_.files.read(file, LargestFile);
-        if (category.state == FileText::State::Unreadable)
-            faults_.push_back(FaultLine({file, category.reason}));
-        return std::move(category.bytes);
-    }
-
-    const Disk& disk_;
-    std::vector<std::string>& faults_;
-    std::unordered_map<std::string, SharedText> texts_;
-};
-
 void AddOnce(std::vector<std::string>& faults, std::string fault) {
     if (std::find(faults.begin(), faults.end(), fault) == faults.end())
         faults.push_back(std::move(fault));
@@ -111,10 +82,10 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
     if (!count && faults.empty())
         faults.emplace_back("ShopgeneratorConfig.dat: Zu dieser Shopart fehlt die Zeile WareCount, "
                             "oder sie nennt keine Zahl.");
-    Categories categories(platform.disk, faults);
+    WareFiles files(platform.disk, faults);
     for (int n = 1; n <= count.value_or(0); ++n) {
         const std::string name = ReadWareCategory(type, static_cast<std::int16_t>(n));
-        switch (DrawCategory(categories.Text(name), wishes, platform.RollDice, shop)) {
+        switch (DrawCategory(files.Text(name), wishes, platform.RollDice, shop)) {
         case Drawn::All:
             break;
         case Drawn::CutOff:

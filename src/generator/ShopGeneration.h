@@ -5,7 +5,7 @@
 #include "base/Platform.h"
 #include "generator/frmEmporiumGenerator.h"
 #include "shopeditor/ShopEditor.h"
-#include "store/ItemRecords.h"
+#include "store/ItemRecord.h"
 
 #include <string_view>
 

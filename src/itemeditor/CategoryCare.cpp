@@ -1,6 +1,7 @@
 #include "itemeditor/CategoryCare.h"
 
 #include "itemeditor/CategoryChoice.h"
+#include "itemeditor/CategoryDropDowns.h"
 #include "store/CategoryList.h"
 #include "store/CategoryRefusal.h"
 #include "store/WriteTurn.h"

@@ -3,7 +3,7 @@
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
-#include "itemeditor/ItemWriting.h"
+#include "itemeditor/ItemToDisk.h"
 #include "store/WriteTurn.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // The shop: its wares, its descriptive fields and the controls that show them. It lives for one run
-// of the program and leaves it only as a document. The operations are in ShopList, ShopPricing
-// and ShopFields.
+// of the program and leaves it only as a document. The operations are in ShopList, ShopPricing,
+// ShopFields and ShopRecovery.
 #pragma once
 
 #include "base/Controls.h"

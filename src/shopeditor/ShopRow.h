@@ -1,7 +1,7 @@
 // One ware of the shop: made from an item's record, and what the list shows of it.
 #pragma once
 
-#include "store/ItemRecords.h"
+#include "store/ItemRecord.h"
 
 #include <cstdint>
 #include <string>

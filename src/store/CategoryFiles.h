@@ -4,7 +4,7 @@
 
 #include "base/Disk.h"
 #include "store/CategoryNames.h"
-#include "store/ItemRecords.h"
+#include "store/ItemRecord.h"
 
 #include <string>
 #include <string_view>

@@ -4,6 +4,7 @@
 #include "itemeditor/AvailabilityEditor.h"
 #include "itemeditor/CategoryCare.h"
 #include "itemeditor/CategoryChoice.h"
+#include "itemeditor/CategoryDropDowns.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"

@@ -1,4 +1,4 @@
-#include "itemeditor/ItemWriting.h"
+#include "itemeditor/ItemToDisk.h"
 
 #include "itemeditor/CategoryChoice.h"
 #include "store/CategoryList.h"
@@ -37,28 +37,6 @@ bool IsListed(const Disk& disk, const std::string& category) {
            std::find(list.names.begin(), list.names.end(), category) != list.names.end();
 }
 
-std::string FileTextWith(const ItemEditor& editor, std::string_view bytes,
-                         const RowChange& change) {
-    if (change.row == editor.ItemCount())
-        return WithRecords(bytes, {*change.record});
-    const RecordView& place = editor.Record(change.row);
-    return change.record ? WithRecordAt(bytes, place, *change.record)
-                         : WithoutRecordAt(bytes, place);
-}
-
-// The records as the file holds them now.
-void TakeOver(ItemEditor& editor, const RowChange& change, SharedText text) {
-    if (change.row == editor.ItemCount())
-        editor.Items.push_back({{}, change.home});
-    else if (!change.record)
-        editor.Items.erase(editor.Items.begin() + change.row);
-    RecordReader reader(*text);
-    for (ItemRow& row : editor.Items)
-        if (row.home == change.home)
-            reader.Next(row.record);
-    editor.viewFiles[static_cast<std::size_t>(change.home)].bytes = std::move(text);
-}
-
 // Why the row's file can't be written at all; empty if it can.
 std::string FileRefusal(const Disk& disk, const ViewFile& file, const FileText& present,
                         const WriteWording& words) {
@@ -89,8 +67,7 @@ Outcome CompareAndWrite(ItemEditor& editor, const Disk& disk, const RowChange& c
     std::vector<FileChange> changes;
     if (auto refusal = more ? more(changes) : std::string(); !refusal.empty())
         return {false, std::move(refusal)};
-    changes.push_back(
-        {CategoryPath(disk.folders, file.name), FileTextWith(editor, *file.bytes, change)});
+    changes.push_back({CategoryPath(disk.folders, file.name), FileTextWith(editor, change)});
     Outcome outcome = WriteChanges(disk, changes, words.failed);
     if (outcome.stands)
         TakeOver(editor, change,

@@ -1,4 +1,4 @@
-#include "store/ItemRecords.h"
+#include "store/ItemRecord.h"
 
 #include "text/Ansi.h"
 #include "text/LineEnds.h"

@@ -13,13 +13,6 @@
 
 namespace emporium {
 
-/// A change of one row of the view; the row ItemCount is a new one.
-struct RowChange {
-    int row;
-    int home;                 // the index of its file in viewFiles
-    const ItemRecord* record; // null: the row goes
-};
-
 /// How the user is asked and told.
 struct WriteWording {
     std::string_view failed; // begins the box of a failure

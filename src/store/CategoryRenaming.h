@@ -1,0 +1,16 @@
+// The files of the fixed categories had longer names once; start-up brings them to the present
+// ones.
+#pragma once
+
+#include "base/Disk.h"
+
+#include <string>
+#include <vector>
+
+namespace emporium {
+
+/// Brings the files to their present names, over files of that name. Adds to `faults` what
+/// failed; both files stand as before then.
+void RenameOldCategoryFiles(const Disk& disk, std::vector<std::string>& faults);
+
+} // namespace emporium
