@@ -4,6 +4,7 @@
 #include "World.h"
 
 #include "itemeditor/CategoryChoice.h"
+#include "itemeditor/CategoryDropDowns.h"
 #include "itemeditor/ItemForm.h"
 #include "itemeditor/ItemList.h"
 #include "itemeditor/ItemSaving.h"
