@@ -13,8 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace emporium::test {
 namespace {
 
@@ -106,7 +104,6 @@ TEST(ItemListDocument, ThePageIsTheListInItsOrderLineByLine) {
     std::string byName, byPrice;
     WriteItemList(editor, byName);
     EXPECT_EQ(byName, top + ear + axe + tongs + bottom);
-    EXPECT_EQ(std::count(byName.begin(), byName.end(), '\n'), 12 + 6 * 3);
     SortItemList(editor, ItemPriceColumn);
     WriteItemList(editor, byPrice);
     EXPECT_EQ(byPrice, top + tongs + axe + ear + bottom);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 
 namespace emporium::test {
@@ -13,19 +12,6 @@ namespace {
 // The lowest throw of six that passes, by Wert and quality; 7 is never.
 constexpr std::array<std::array<int, 5>, 5> LowestPass = {
     {{3, 2, 1, 1, 1}, {4, 3, 2, 1, 1}, {5, 4, 3, 2, 1}, {6, 5, 4, 3, 2}, {7, 7, 6, 5, 4}}};
-
-struct RegionCase {
-    std::string_view availability, shop;
-    int highestPass; // of twenty; 0 is never
-};
-
-// First the three distances, then strings that are not of the right form.
-const std::vector<RegionCase> RegionCases = {{"GA|PU|", "GA", 19},    {"GA|PU|", "ZW", 16},
-                                             {"GA|PU|", "MO", 13},    {"FI|MA|PU|", "ZW", 16},
-                                             {"GA", "ZW", 16},        {"MO|GA", "ZW", 16},
-                                             {"MO|XX|GA|", "ZW", 19}, {"in aller Welt", "ZW", 19},
-                                             {"||||||", "ZW", 19},    {"|", "ZW", 0},
-                                             {"G", "ZW", 0},          {"MO|WA|G", "ZW", 13}};
 
 ItemRecord Record(std::string nameLine, std::string_view regions = "") {
     return {std::move(nameLine), "1", "1D", "Text", std::string(regions)};
@@ -57,7 +43,15 @@ TEST(DrawRecord, EveryWertPassesAtEveryQualityFromItsThresholdOn) {
 }
 
 TEST(DrawRecord, TheSecondThrowGrowsHarderWithTheDistance) {
-    for (const RegionCase& c : RegionCases) {
+    const struct {
+        std::string_view availability, shop;
+        int highestPass; // of twenty; 0 is never
+    } cases[] = {{"GA|PU|", "GA", 19},    {"GA|PU|", "ZW", 16},    {"GA|PU|", "MO", 13},
+                 {"FI|MA|PU|", "ZW", 16}, {"GA", "ZW", 16}, // and what is not of the right form
+                 {"MO|GA", "ZW", 16},     {"MO|XX|GA|", "ZW", 19}, {"in aller Welt", "ZW", 19},
+                 {"||||||", "ZW", 19},    {"|", "ZW", 0},          {"G", "ZW", 0},
+                 {"MO|WA|G", "ZW", 13}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.availability).append(" in ").append(c.shop));
         const ItemRecord record = Record("Seil4", c.availability);
         const ShopWishes wishes{3, true, c.shop};

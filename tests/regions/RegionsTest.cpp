@@ -1,5 +1,4 @@
 #include "regions/AtlasEngine.h"
-#include "regions/Availability.h"
 
 #include <gtest/gtest.h>
 
@@ -14,9 +13,6 @@ constexpr std::string_view Borders =
     "BO-NO BO-TO BO-WE EL-NO EL-WE FI-NO GA-MH GA-PU GA-WE GA-ZW HA-LF HA-OR HA-TH HA-WE HA-ZW "
     "KH-LF KH-MH KH-PU KH-SÜ LF-PU LF-SÜ LF-ZW LF-ZY MA-MH MH-PU MO-SÜ NO-OR NO-TH NO-WE OR-TH "
     "OR-WE PU-ZW SÜ-WA SÜ-ZY TO-WE WE-ZW TO>HA GA>TO "_ansi;
-
-constexpr std::string_view Full =
-    "BO|EL|FI|GA|HA|KH|LF|MA|MH|MO|NO|OR|PU|SÜ|TH|TO|WA|WE|ZW|ZY|"_ansi;
 
 using Pair = std::pair<std::string_view, std::string_view>;
 
@@ -38,23 +34,6 @@ TEST(RegionDistance, NeighboursAreAtOneAndAllElseAtTwo) {
         EXPECT_EQ(RegionDistance(other, "NO"), std::nullopt) << other;
         EXPECT_EQ(RegionDistance("NO", other), std::nullopt) << other;
     }
-}
-
-TEST(Availability, DocumentsTellFewRegionsByNameAndManyByTheirExceptions) {
-    std::string butTwo(Full);
-    butTwo.erase(butTwo.find("NO|"), 3);
-    butTwo.erase(butTwo.find("WA|"), 3);
-    const Pair cases[] = {
-        {"", ""},
-        {"BO|EL|FI|", "BO|EL|FI|"},
-        {"1234567890", "1234567890"},
-        {"BO|EL|FI|GA|",
-         "Alle, ausser NO, TH, OR, WE, TO, HA, ZW, PU, LF, ZY, KH, MH, MA, SÜ, MO, WA, "_ansi},
-        {butTwo, "Alle, ausser NO, WA, "},
-        {Full, "Überall"_ansi}};
-    for (const auto& [availability, text] : cases)
-        EXPECT_EQ(AvailabilityText(availability), text) << availability;
-    EXPECT_EQ(FullAvailability(), Full);
 }
 
 } // namespace
