@@ -15,8 +15,6 @@
 namespace emporium::test {
 namespace {
 
-using Texts = std::vector<std::string_view>;
-
 TEST(IniFile, ValuesAreFoundAsWindowsFindsThem) {
     const auto text =
         "vorher=unerreichbar\r\n  [ Großer Krämer ] Rest = egal\r\n"
@@ -98,12 +96,13 @@ TEST(Ansi, EveryByteSurvivesTheWayThroughUtf8AndFoldsAsInWindows) {
 }
 
 TEST(GermanOrder, UmlautsStandWithTheirBaseLetters) {
-    const Texts ordered = {"",           " Zelt",         "12D",         "2D",       "A",
-                           "a",          "Ä"_ansi,        "ä"_ansi,      "Aal",      "Affe",
-                           "Ähre"_ansi,  "AMT",           "Amt",         "amt",      "Apfel",
-                           "Äpfel"_ansi, "Apfelbaum",     "Ofen",        "Öl"_ansi,  "Ölkanne"_ansi,
-                           "PU",         "Strasse",       "Straße"_ansi, "Strassen", "SÜ"_ansi,
-                           "TH",         "Übertopf"_ansi, "Ulme",        "Zelt"};
+    const std::vector<std::string_view> ordered = {
+        "",           " Zelt",         "12D",         "2D",       "A",
+        "a",          "Ä"_ansi,        "ä"_ansi,      "Aal",      "Affe",
+        "Ähre"_ansi,  "AMT",           "Amt",         "amt",      "Apfel",
+        "Äpfel"_ansi, "Apfelbaum",     "Ofen",        "Öl"_ansi,  "Ölkanne"_ansi,
+        "PU",         "Strasse",       "Straße"_ansi, "Strassen", "SÜ"_ansi,
+        "TH",         "Übertopf"_ansi, "Ulme",        "Zelt"};
     for (std::size_t i = 0; i < ordered.size(); ++i)
         for (std::size_t j = 0; j < ordered.size(); ++j)
             EXPECT_EQ(GermanLess(ordered[i], ordered[j]), i < j) << ordered[i] << " " << ordered[j];

@@ -4,6 +4,7 @@
 #include "files/Recovery.h"
 #include "files/Temporaries.h"
 #include "support/MemoryDisk.h"
+#include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -249,14 +250,26 @@ TEST(Journal, OnlyAWholeJournalIsRead) {
     EXPECT_FALSE(ReadJournal(text + text));
 }
 
+TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
+    const ProgramFolder program;
+    const FileLayer files = SystemFiles();
+    const fs::path folder = program.folders.EmporiumFolder();
+    const FolderClaim first = files.claim(folder);
+    EXPECT_FALSE(first.takenElsewhere);
+    EXPECT_TRUE(files.claim(folder).takenElsewhere);
+    std::shared_ptr<void> mine, others;
+    EXPECT_FALSE(files.lock(folder, mine));
+    EXPECT_EQ(files.lock(folder, others), std::errc::device_or_resource_busy);
+    mine.reset();
+    EXPECT_FALSE(files.lock(folder, others));
+}
+
 TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
-    std::vector<std::string> faults;
-    std::string text;
-    for (const char fault : std::string("ABCDEFGHIJKL"))
-        text += (text.empty() ? "" : "\n") + faults.emplace_back(1, fault);
-    EXPECT_EQ(FaultsText(faults), text);
+    std::vector<std::string> faults(12, "x");
+    const std::string twelve = FaultsText(faults);
+    EXPECT_EQ(twelve, "x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx");
     faults.resize(14);
-    EXPECT_EQ(FaultsText(faults), text + "\n... und 2 weitere Meldungen.");
+    EXPECT_EQ(FaultsText(faults), twelve + "\n... und 2 weitere Meldungen.");
 }
 
 } // namespace

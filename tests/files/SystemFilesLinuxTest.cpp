@@ -10,6 +10,7 @@
 
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <tuple>
 
 namespace emporium::test {
 namespace {
@@ -123,18 +124,17 @@ TEST(SystemFiles, AProcessMayEndInAnyCall) {
             };
             guard(files.createNew), guard(files.write), guard(files.flush), guard(files.rename);
             guard(files.remove), guard(files.flushFolder), guard(files.close);
-            ::_exit(WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}})
-                            .stands
-                        ? 0
-                        : 2);
+            std::ignore =
+                WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}});
+            ::_exit(0);
         }
         int status = 0;
         ::waitpid(child, &status, 0);
         ended = WEXITSTATUS(status) == 1;
-        EXPECT_NE(WEXITSTATUS(status), 2);
         EXPECT_FALSE(FinishJournal(SystemFiles(), folder).failure);
         EXPECT_FALSE(RemoveStrays(SystemFiles(), folder));
         const bool isNew = program.Read("Emporium/a.dat") == "neu";
+        EXPECT_TRUE(isNew || ended);
         EXPECT_EQ(program.Read("Emporium/b.dat"), isNew ? "b" : "(absent)") << n;
         EXPECT_EQ(SystemFiles().entries(folder).size(), isNew ? 2U : 1U) << n;
     }
