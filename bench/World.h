@@ -6,6 +6,7 @@
 #include "regions/Availability.h"
 #include "shopeditor/ShopList.h"
 #include "store/CategoryFiles.h"
+#include "store/RecordText.h"
 
 #include <algorithm>
 #include <cstdlib>

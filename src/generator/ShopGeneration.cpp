@@ -9,6 +9,7 @@
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
 #include "store/CategoryFiles.h"
+#include "store/RecordReader.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "base/Subs.h"
 #include "files/FileFailure.h"
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 
 #include <utility>
 

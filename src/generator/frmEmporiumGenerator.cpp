@@ -3,7 +3,7 @@
 #include "files/FileFailure.h"
 #include "generator/ShopTypes.h"
 #include "regions/AtlasEngine.h"
-#include "shopeditor/ShopLevels.h"
+#include "shopeditor/LevelTable.h"
 #include "shopeditor/ShopList.h"
 
 namespace emporium {

@@ -78,14 +78,4 @@ void ReloadItems(ItemEditor& editor, const Platform& platform) {
         platform.ShowMessage(FaultsText(faults));
 }
 
-void UpdateItemButtons(ItemEditor& editor) {
-    const bool filled = !editor.Items.empty();
-    editor.cmdItemDelete.enabled = filled;
-    editor.cmdListeDrucken.enabled = filled;
-    editor.cmdItemHin.enabled = filled;
-    const std::string chosen = editor.cmbKategorien.Text();
-    editor.cmdKategorieDelete.enabled =
-        !filled && !chosen.empty() && chosen != AllCategories && !IsFixedCategory(chosen);
-}
-
 } // namespace emporium

@@ -21,7 +21,4 @@ void LoadItems(ItemEditor& editor, const Platform& platform);
 /// is chosen then.
 void ReloadItems(ItemEditor& editor, const Platform& platform);
 
-/// Ties buttons to the view's having records.
-void UpdateItemButtons(ItemEditor& editor);
-
 } // namespace emporium

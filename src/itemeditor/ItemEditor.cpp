@@ -1,5 +1,7 @@
 #include "itemeditor/ItemEditor.h"
 
+#include "store/CategoryPaths.h"
+
 namespace emporium {
 
 ItemEditor::ItemEditor()
@@ -12,6 +14,16 @@ ItemEditor::ItemEditor()
     cmdItemNeu.visible = cmdItemDelete.visible = cmdItemSave.visible = false;
     cmdItemSave.enabled = cmdKategorieDelete.enabled = cmdListeDrucken.enabled = false;
     cmdItemHin.visible = false;
+}
+
+void UpdateItemButtons(ItemEditor& editor) {
+    const bool filled = !editor.Items.empty();
+    editor.cmdItemDelete.enabled = filled;
+    editor.cmdListeDrucken.enabled = filled;
+    editor.cmdItemHin.enabled = filled;
+    const std::string chosen = editor.cmbKategorien.Text();
+    editor.cmdKategorieDelete.enabled =
+        !filled && !chosen.empty() && chosen != AllCategories && !IsFixedCategory(chosen);
 }
 
 } // namespace emporium

@@ -45,4 +45,7 @@ struct ItemEditor : ItemView {
     Label lblRegionen;
 };
 
+/// Ties buttons to the view's having records.
+void UpdateItemButtons(ItemEditor& editor);
+
 } // namespace emporium

@@ -2,6 +2,7 @@
 
 #include "itemeditor/CategoryChoice.h"
 #include "store/CategoryList.h"
+#include "store/RecordText.h"
 #include "store/WriteTurn.h"
 
 #include <algorithm>

@@ -1,5 +1,8 @@
 #include "itemeditor/ItemView.h"
 
+#include "store/RecordReader.h"
+#include "store/RecordText.h"
+
 #include <algorithm>
 #include <utility>
 

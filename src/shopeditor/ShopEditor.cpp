@@ -1,7 +1,7 @@
 #include "shopeditor/ShopEditor.h"
 
 #include "regions/AtlasEngine.h"
-#include "shopeditor/ShopLevels.h"
+#include "shopeditor/LevelTable.h"
 
 namespace emporium {
 

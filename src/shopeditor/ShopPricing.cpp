@@ -1,6 +1,6 @@
 #include "shopeditor/ShopPricing.h"
 
-#include "shopeditor/ShopLevels.h"
+#include "shopeditor/LevelTable.h"
 #include "shopeditor/ShopList.h"
 
 #include <cstdlib>

@@ -2,6 +2,7 @@
 
 #include "files/FileWriting.h"
 #include "store/CategoryFiles.h"
+#include "store/RecordText.h"
 #include "text/Ansi.h"
 #include "text/LineReader.h"
 

@@ -1,6 +1,7 @@
 #include "store/CategoryFiles.h"
 
 #include "files/FileFailure.h"
+#include "store/RecordReader.h"
 #include "text/Ansi.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 #include "store/ItemRecord.h"
 
 #include <string>

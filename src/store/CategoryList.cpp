@@ -1,7 +1,7 @@
 #include "store/CategoryList.h"
 
 #include "files/FileFailure.h"
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 #include "text/GermanNumber.h"
 #include "text/LineEnds.h"
 #include "text/LineReader.h"

@@ -1,6 +1,6 @@
 #include "store/CategoryRefusal.h"
 
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 #include "text/Ansi.h"
 
 #include <algorithm>

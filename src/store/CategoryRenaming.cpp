@@ -3,7 +3,7 @@
 #include "base/Subs.h"
 #include "files/FileFailure.h"
 #include "files/FileWriting.h"
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 
 namespace emporium {
 

@@ -1,4 +1,4 @@
-#include "store/CategoryNames.h"
+#include "store/CategoryPaths.h"
 
 #include <algorithm>
 #include <string>
