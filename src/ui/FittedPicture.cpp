@@ -29,8 +29,7 @@ QImage Decode(QByteArray& bytes, QSize pixels) {
 QImage Fit(const QImage& image, QSize pixels) {
     if (image.isNull())
         return image;
-    const QImage fitted =
-        image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    QImage fitted = image.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
     if (fitted.size() == pixels) // a copy takes memory of its own
         return fitted;
     return fitted.copy((fitted.width() - pixels.width()) / 2,
