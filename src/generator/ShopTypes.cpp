@@ -2,7 +2,6 @@
 
 #include "files/FileFailure.h"
 #include "text/Ansi.h"
-#include "text/GermanNumber.h"
 #include "text/LineReader.h"
 
 namespace emporium {
@@ -36,15 +35,6 @@ std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string
 IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
                           std::vector<std::string>& faults) {
     return {ReadConfigFile(disk, "ShopgeneratorConfig.dat", faults).bytes, shopType};
-}
-
-std::optional<std::int16_t> ReadWareCount(const IniSection& type) {
-    const auto number = ReadGermanNumber(type.Value("WareCount"));
-    return number ? std::optional(RoundToInt16(*number)) : std::nullopt;
-}
-
-std::string ReadWareCategory(const IniSection& type, std::int16_t n) {
-    return type.Value("Ware" + std::to_string(n));
 }
 
 } // namespace emporium

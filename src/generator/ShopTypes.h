@@ -4,8 +4,6 @@
 #include "base/Disk.h"
 #include "base/IniFile.h"
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,12 +18,5 @@ std::vector<std::string> ReadShopTypes(const Disk& disk, std::vector<std::string
 /// `faults`.
 IniSection ReadTypeConfig(const Disk& disk, std::string_view shopType,
                           std::vector<std::string>& faults);
-
-/// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing
-/// if the file does not tell it or tells no number.
-std::optional<std::int16_t> ReadWareCount(const IniSection& type);
-
-/// The category of number n, from 1, empty if the type names none.
-std::string ReadWareCategory(const IniSection& type, std::int16_t n);
 
 } // namespace emporium

@@ -3,10 +3,20 @@
 #include "base/Subs.h"
 #include "files/FileFailure.h"
 #include "store/CategoryPaths.h"
+#include "text/GermanNumber.h"
 
 #include <utility>
 
 namespace emporium {
+
+std::optional<std::int16_t> ReadWareCount(const IniSection& type) {
+    const auto number = ReadGermanNumber(type.Value("WareCount"));
+    return number ? std::optional(RoundToInt16(*number)) : std::nullopt;
+}
+
+std::string ReadWareCategory(const IniSection& type, std::int16_t n) {
+    return type.Value("Ware" + std::to_string(n));
+}
 
 SharedText WareFiles::Text(const std::string& name) {
     SharedText& text = texts_[name];

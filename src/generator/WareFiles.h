@@ -1,14 +1,24 @@
-// The files of the categories that a shop type names.
+// The categories that a shop type names, and their files.
 #pragma once
 
 #include "base/Disk.h"
+#include "base/IniFile.h"
 #include "store/ItemRecord.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace emporium {
+
+/// How many categories the type names, the nearest limit for a number beyond 16 bits; nothing
+/// if the file does not tell it or tells no number.
+std::optional<std::int16_t> ReadWareCount(const IniSection& type);
+
+/// The category of number n, from 1, empty if the type names none.
+std::string ReadWareCategory(const IniSection& type, std::int16_t n);
 
 class WareFiles {
 public:

@@ -38,7 +38,7 @@ std::string UnclearPricesText(const ShopEditor& shop) {
     int found = 0;
     std::string text;
     for (const ShopRow& row : shop.lvLaden.rows)
-        if (!row.hasBasePrice && ++found <= named)
+        if (!row.base.isClear && ++found <= named)
             text.append("\n").append(ShopCell(row, ShopTextColumn)) += ": " + row.Price;
     if (found == 0)
         return {};
@@ -55,7 +55,7 @@ void ApplyPriceLevel(ShopEditor& shop) {
     if (level < 0)
         return;
     for (ShopRow& row : shop.lvLaden.rows)
-        row.Price = LevelPriceText(row.ShopBasePrice, level).append(row.Unit);
+        row.Price = LevelPriceText(row.base.ShopBasePrice, level).append(row.Unit);
     if (shop.lvLaden.sort.column == ShopPriceColumn)
         ArrangeShopList(shop);
     ++shop.lvLaden.revision;

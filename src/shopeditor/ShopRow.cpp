@@ -1,9 +1,6 @@
 #include "shopeditor/ShopRow.h"
 
 #include "text/Ansi.h"
-#include "text/GermanNumber.h"
-
-#include <cmath>
 
 namespace emporium {
 
@@ -16,9 +13,7 @@ ShopRow MakeShopRow(const RecordView& record, SharedText bytes) {
     row.Weight = record[WeightField];
     row.Unit = price.substr(number.size());
     row.ShopAvailability = record[AvailabilityField];
-    const auto base = ReadGermanNumber(number);
-    row.ShopBasePrice = RoundToInt16(base.value_or(0));
-    row.hasBasePrice = base && std::abs(*base - row.ShopBasePrice) < 1;
+    row.base = ReadBasePrice(number);
     row.Price = price;
     return row;
 }

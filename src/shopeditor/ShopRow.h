@@ -1,9 +1,9 @@
 // One ware of the shop: made from an item's record, and what the list shows of it.
 #pragma once
 
+#include "shopeditor/ShopBasePrice.h"
 #include "store/ItemRecord.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,8 +18,7 @@ struct ShopRow {
     std::string_view Weight;       // in Unzen, without a unit
     std::string_view Unit;         // the letter of the price, empty if the item has no price
     std::string_view ShopAvailability;
-    std::int16_t ShopBasePrice = 0; // whole, without unit and price level
-    bool hasBasePrice = true;       // false if the item's price is no number of 16 bits
+    BasePrice base;
 
     std::string Price;        // as shown: a number and the unit
     std::string WithQuantity; // as shown once a quantity was given, else empty: see ShopCell
@@ -27,8 +26,7 @@ struct ShopRow {
 
 enum ShopColumn { ShopTextColumn, ShopPriceColumn };
 
-/// A ware of an item's record, which lies within the bytes. Its price is shown as it comes; the
-/// base price is 0 for a text that is no number, and the nearest limit for one beyond 16 bits.
+/// A ware of an item's record, which lies within the bytes. Its price is shown as it comes.
 ShopRow MakeShopRow(const RecordView& record, SharedText bytes);
 
 /// The same with bytes of its own, so that a single ware does not keep the whole of its file.

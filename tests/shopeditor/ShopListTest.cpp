@@ -188,7 +188,7 @@ TEST(BasePrice, TheNumberOfAPriceIsRoundedAndHeldWithinItsLimits) {
         {"", 0},     {"vielD", 0},      {"12", 12},          {"1,2,3D", 0}};
     for (const auto& [price, base] : cases) {
         const ShopRow row = MakeShopRow({"Seil1", "", price, "", ""});
-        EXPECT_EQ(row.ShopBasePrice, base) << price;
+        EXPECT_EQ(row.base.ShopBasePrice, base) << price;
         EXPECT_EQ(row.Price, price);
     }
 }

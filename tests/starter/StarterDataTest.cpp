@@ -2,6 +2,7 @@
 
 #include "generator/ShopGeneration.h"
 #include "generator/ShopTypes.h"
+#include "generator/WareFiles.h"
 #include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 #include "store/ArsenalImport.h"
