@@ -55,10 +55,11 @@ void PrepareApplication() {
 
 void SetUpApplication(QApplication& application) {
     const bool windows = QApplication::style()->objectName().startsWith("windows");
-    const QFont font = WindowFont(windows ? "Microsoft Sans Serif" : "Liberation Sans");
-    QApplication::setFont(font);
-    // The system's fonts are listed beside the rest of the start.
-    QThreadPool::globalInstance()->start([font] { QFontMetrics(font).height(); });
+    const char* family = windows ? "Microsoft Sans Serif" : "Liberation Sans";
+    QApplication::setFont(WindowFont(family));
+    // The first use of a font lists all that the system has, which an idle core does meanwhile. The
+    // font is one of its own, since threads can't share one.
+    QThreadPool::globalInstance()->start([family] { QFontMetrics(WindowFont(family)).height(); });
 
     // No display name: the desktop would append it to the window's caption.
     QApplication::setApplicationName(ToQString(ProgramTitle));
