@@ -4,6 +4,7 @@
 #include "documents/ShopExport.h"
 #include "itemeditor/ItemList.h"
 #include "regions/Availability.h"
+#include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
 #include "support/MemoryDisk.h"
@@ -48,7 +49,7 @@ ShopEditor FilledShop() {
     AddShopRow(shop, MakeShopRow({"<Öl> & Fett1"_ansi, "", "7S", "", "GA|"}));
     ChoosePriceLevel(shop, 1);
     SortShopList(shop, ShopTextColumn);
-    shop.txtName.text = "Zur Öse"_ansi;
+    EditShopText(shop.txtName, std::string("Zur Öse"_ansi));
     shop.txtShopart.text = "Krämer"_ansi;
     shop.txtBesitzerName.text = "Ada, Tochter des Olf";
     shop.cmbShopRegion.Select(13);

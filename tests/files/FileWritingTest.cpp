@@ -165,6 +165,7 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
         const FileLayer layer = closed.disk.Files();
         const bool kept = WriteDocument(layer, closed.folder / "b.dat", "Laden").has_value();
         EXPECT_EQ(closed.disk.Read("Emporium/b.dat"), kept ? "alt b.dat" : "Laden");
+        EXPECT_TRUE(!kept || closed.disk.calls >= n);
         EXPECT_TRUE(WriteDocument(layer, closed.folder / "neu.html", "Laden"));
         Writing fails;
         const State before = fails.Look();

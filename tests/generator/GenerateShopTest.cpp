@@ -82,6 +82,7 @@ class GenerateShops : public testing::Test {
 protected:
     GenerateShops() {
         script.platform.disk.files = program.Files();
+        script.platform.ShowGeneratorDialog = [this] { EXPECT_TRUE(dialog.open); };
         Configure({"[Krämer]"_ansi, "WareCount=1", "Ware1=Kleidung"});
         program.Write("Emporium/Kleidung.dat", Item("Hemd1") + Item("Gürtel1"_ansi));
         program.Write("Atlas/Regionen.dat", Lines({"[ZW]", "Desc=Zinnen"}));
@@ -215,8 +216,9 @@ TEST_F(GenerateShops, TheButtonNeedsEveryChoiceInAnyOrder) {
 }
 
 TEST_F(GenerateShops, ARunStopsWithABoxAtAFullShop) {
-    script.platform.RollDice = [](std::int32_t n) { return n; };
-    for (const int room : {2, 1}) {
+    Configure({"[Krämer]"_ansi, "WareCount=2", "Ware1=Kleidung", "Ware2=Kleidung"});
+    for (const int room : {4, 1}) {
+        script.Throw(std::vector(room > 1 ? 4 : 2, 6));
         ClearShop(shop);
         while (shop.ShopCount() < MaxRows - room)
             shop.lvLaden.rows.push_back(MakeShopRow({"Seil1", "", "1H", "", ""}));

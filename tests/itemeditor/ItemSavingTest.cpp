@@ -71,6 +71,7 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
         EXPECT_EQ(reloads.File("Kleidung"), foreign + before) << "nothing is written";
         EXPECT_EQ(RecordOfForm(reloads.editor), Hat) << "what the user typed stays";
         EXPECT_TRUE(reloads.Shown().starts_with("Ärmel 5S Fremd 1H"_ansi));
+        EXPECT_EQ(reloads.editor.lvGegenstände.reveal.row, ChosenPlace(reloads.editor));
         reloads.Save();
         EXPECT_EQ(reloads.File("Kleidung"), foreign + changed) << "still the same item";
         EXPECT_EQ(reloads.questions, 1);

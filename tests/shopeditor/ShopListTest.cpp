@@ -38,6 +38,7 @@ protected:
     void SetPrice(std::string_view answer) {
         script.ExpectText("Bitte gebt den neuen Preis ein.", answer);
         SetShopRowPrice(shop, script.platform);
+        EXPECT_EQ(shop.lvLaden.reveal.row, shop.lvLaden.current);
     }
 
     ShopEditor shop;
