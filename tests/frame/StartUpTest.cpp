@@ -74,6 +74,9 @@ TEST(Start, MayBreakOffInAnyCallAndIsFinishedByTheNext) {
         } catch (const KilledHere&) {
         }
         const bool reached = here.disk.calls >= n;
+        const auto& items = here.window.items;
+        const bool listed = items.cmbKategorien.Entries().size() > 1;
+        EXPECT_TRUE(trouble > 0 || items.cmdKategorieNeu.enabled == listed);
         EXPECT_TRUE(told || trouble > 0 || here.IsUpToDate());
         here.disk.CutPower((trouble & 2) != 0, (trouble & 4) != 0);
         here.Start();
@@ -113,10 +116,8 @@ TEST(Start, SaysInAFolderThatCannotBeWrittenWhatCanBeDoneThereAndTouchesNothing)
         if (ofPages)
             here.disk.Write("Emporium/Schreibvorgang.orvan-journal", "damaged");
         const auto& folders = here.disk.folders;
-        here.disk
-            .Put(ofPages ? folders.TempFolder : folders.EmporiumFolder(), "",
-                 FileStatus::Kind::Folder)
-            .writable = false;
+        const auto closed = ofPages ? folders.TempFolder : folders.EmporiumFolder();
+        here.disk.Put(closed, "", FileStatus::Kind::Folder).writable = false;
         here.script.ExpectMessage(ofPages ? "Das Programm kann in den Ordner Temp nicht schreiben"
                                           : "Das Programm kann in seinen Ordner nicht schreiben.");
         EXPECT_TRUE(here.Start());

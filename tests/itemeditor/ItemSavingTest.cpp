@@ -83,6 +83,9 @@ TEST(ItemSaving, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
     first.Save();
     EXPECT_EQ(first.File("Kleidung"),
               RecordLines({Hat}) + before.substr(before.find("Ärmel"_ansi)) + foreign);
+    World emptied("", false);
+    emptied.Save();
+    EXPECT_FALSE(emptied.editor.cmdItemDelete.enabled);
     World vanished(foreign, false);
     vanished.Save();
     vanished.script.ExpectMessage("Bitte wählt zuerst"_ansi);

@@ -156,19 +156,6 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 8,4D");
 }
 
-TEST_F(ShopList, AWareWithoutAPriceNeverTakesADigitForItsUnit) {
-    Add("Kiesel1", "");
-    ChooseShopRow(shop, 0);
-    for (const std::string price : {"5", "6"}) {
-        SetPrice(price);
-        EXPECT_EQ(Current(), "Kiesel " + price);
-    }
-    for (const int level : {0, 1}) {
-        ChoosePriceLevel(shop, level);
-        EXPECT_EQ(Current(), "Kiesel 0");
-    }
-}
-
 TEST(LevelPrice, EveryBasePriceAtEveryLevelIsExactAndHasNoDigitTooMany) {
     using Limits = std::numeric_limits<std::int16_t>;
     for (int base = Limits::min(); base <= Limits::max(); ++base)
@@ -191,6 +178,7 @@ TEST(BasePrice, TheNumberOfAPriceIsRoundedAndHeldWithinItsLimits) {
         const ShopRow row = MakeShopRow({"Seil1", "", price, "", ""});
         EXPECT_EQ(row.base.ShopBasePrice, base) << price;
         EXPECT_EQ(row.Price, price);
+        EXPECT_TRUE(row.Unit.find_first_of("0123456789") == row.Unit.npos) << price;
     }
 }
 
