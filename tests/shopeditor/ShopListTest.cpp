@@ -146,6 +146,7 @@ TEST_F(ShopList, ChangesByHandReachTheCurrentOneOfEqualRowsOnly) {
         SetShopRowQuantity(shop, script.platform);
         EXPECT_EQ(Current(), std::string("Schwert 2 ") + text + " 7D");
         EXPECT_EQ(shop.lvLaden.toolTip + " 7D", Current());
+        EXPECT_EQ("(x" + QuantityOf(shop.lvLaden.rows[2]) + ")", text);
     }
     SetPrice("");
     EXPECT_EQ(Current(), "Schwert 2 (x12 oder mehr) 7D");
