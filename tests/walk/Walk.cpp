@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QPrinter>
 #include <QTest>
 
 namespace emporium::test {

@@ -134,28 +134,43 @@ TEST_F(WindowTest, ANewItemGoesIntoANewCategoryOnceItHasAUnit) {
 TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
     Open();
     Pick("cmbKategorien", "Werkzeug");
+    QLineEdit box; // stands for the field of an input box
+    ui::GuardInput(box);
+    // Between the marks is what is selected before; behind it is where the caret stands then.
     const QString table[][5] = {
-        {"line ends and tabs", "txtItem0", "", "Ei\r\nn\tBeil\n", "EinBeil"},
-        {"U+2028 and NUL", "txtItem3", "", QString("a\u2028b") + QChar(0) + "c", "abc"},
-        {"a decomposed umlaut", "txtItem0", "", "Mu\u0308hle", "Mühle"},
-        {"beyond the code page", "txtItem0", "", "Ж5€", "5€"},
-        {"a number with a unit", "txtItem1", "", "-1.5,0 kg", ""},
-        {"a sign behind a digit", "txtItem2", "7", "-3", "7"},
-        {"blanks around a number", "txtItem2", "", " 12,5\n", "12,5"},
-        {"nothing that may enter", "txtItem2", "7", "abc", "7"},
+        {"line ends and tabs", "txtItem0", "Z||e", "Ei\r\nn\tBeil\n", "ZEinBeil|e"},
+        {"U+2028 and NUL", "txtItem3", "||", QString("a\u2028b") + QChar(0) + "c", "abc|"},
+        {"a decomposed umlaut", "txtItem0", "||", "Mu\u0308hle", "Mühle|"},
+        {"beyond the code page", "txtItem0", "|ab|c", "Ж5€", "5€|c"},
+        {"a number with a unit", "txtItem1", "||", "-1.5,0 kg", "|"},
+        {"a sign behind a digit", "txtItem2", "7||", "-3", "7|"},
+        {"a second comma", "txtItem2", "1||2,5", ",", "1|2,5"},
+        {"blanks around a number", "txtItem2", "3|4|,5", " 12\n", "312|,5"},
+        {"nothing that may enter", "txtItem2", "1|7|", "abc", "1|7"},
+        {"beyond the code page, in a box", "", "Kr||uter", "Жä\n", "Krä|uter"},
     };
     for (const auto& [what, name, before, entered, after] : table) {
-        auto* field = Find<QLineEdit>(name);
-        Type(name, before);
-        QApplication::clipboard()->setText(entered);
-        field->paste();
-        EXPECT_EQ(field->text(), after) << "pasted: " << qPrintable(what);
-        Type(name, before);
-        QInputMethodEvent event;
-        event.setCommitString(entered);
-        QApplication::sendEvent(field, &event);
-        EXPECT_EQ(field->text(), after) << "composed: " << qPrintable(what);
+        auto* field = name.isEmpty() ? &box : Find<QLineEdit>(name);
+        const QStringList parts = before.split('|');
+        for (const bool pasted : {true, false}) {
+            field->setText(parts.join(""));
+            field->setSelection(static_cast<int>(parts[0].size()),
+                                static_cast<int>(parts[1].size()));
+            QApplication::clipboard()->setText(entered);
+            QInputMethodEvent composed;
+            composed.setCommitString(entered);
+            if (pasted)
+                field->paste();
+            else
+                QApplication::sendEvent(field, &composed);
+            EXPECT_EQ(field->text().insert(field->cursorPosition(), '|'), after)
+                << qPrintable(what) << (pasted ? ", pasted" : ", composed");
+        }
     }
+    auto* price = Find<QLineEdit>("txtItem2");
+    price->selectAll();
+    QTest::keyClick(price, Qt::Key_X);
+    EXPECT_TRUE(price->hasSelectedText()) << "a refused letter deletes nothing";
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
 #include <QTest>
 
 namespace emporium::test {
@@ -31,11 +32,14 @@ QStringList Places(const QWidget& parent) {
 }
 
 TEST_F(WindowTest, EveryControlHasItsPlaceInTheOrderOfTheTabKey) {
-    QImage red(40, 40, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    EXPECT_TRUE(red.save(QString::fromStdString((program.root / "GFX/new.bmp").string())));
+    QImage wide(120, 40, QImage::Format_RGB32);
+    wide.fill(Qt::green);
+    QPainter(&wide).fillRect(38, 0, 44, 40, Qt::red);
+    EXPECT_TRUE(wide.save(QString::fromStdString((program.root / "GFX/new.bmp").string())));
     Open();
-    EXPECT_EQ(Find("cmdKategorieNeu")->grab().toImage().pixelColor(12, 12), Qt::red);
+    const QImage button = Find("cmdKategorieNeu")->grab().toImage();
+    for (const int place : {4, 12, 20})
+        EXPECT_EQ(button.pixelColor(place, place), Qt::red) << "the middle fills the button";
     EXPECT_EQ(window->windowTitle(), "Orvan-Emporium 3 v1.00 - Die Velmar Tuchhalle");
     const QStringList prescribed = QString(R"(
 Browser 8 40 185 321; frmGegenstände 0 32 209 393; Frame5 8 24 193 73;

@@ -1,3 +1,4 @@
+#include "ui/Printing.h"
 #include "window/WindowFixture.h"
 
 #include <QApplication>
@@ -5,7 +6,9 @@
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
+#include <QProgressDialog>
 #include <QTest>
+#include <QThread>
 
 namespace emporium::test {
 namespace {
@@ -182,8 +185,9 @@ TEST_F(PrintTest, APrintIsTextAndLoadsNothingAndOnePageCanBePrintedAlone) {
     QApplication::clipboard()->setText("<img src='file://" + Output("bild.png") + "'>" +
                                        QString("<b>").repeated(50'000) + QString(1'000'000, 'x'));
     Find<QLineEdit>("txtName")->paste();
-    const auto pages = [this](int page) {
-        PrintTo(Output("shop.pdf"), page);
+    AddWares();
+    const auto pages = [this](const std::function<void(QPrinter&)>& choose) {
+        PrintTo(Output("shop.pdf"), choose);
         Click("cmdShopDrucken");
         EXPECT_FALSE(QApplication::overrideCursor()) << "the program seems to wait";
         EXPECT_EQ(window->focusWidget(), Find("cmdShopDrucken"));
@@ -193,8 +197,35 @@ TEST_F(PrintTest, APrintIsTextAndLoadsNothingAndOnePageCanBePrintedAlone) {
         EXPECT_FALSE(pdf.contains("/Width 1234")) << "the picture was loaded";
         return pdf.count("/Parent ");
     };
-    EXPECT_GE(pages(0), 3);
-    EXPECT_EQ(pages(2), 1);
+    EXPECT_EQ(pages([](QPrinter& printer) { printer.setFromTo(2, 2); }), 1);
+    EXPECT_GE(pages([](QPrinter& printer) { printer.setPageOrder(QPrinter::LastPageFirst); }), 3);
+    const QByteArray pdf = Bytes("shop.pdf");
+    const auto fonts = [&pdf](qsizetype place) { return pdf.indexOf(">>", place) - place; };
+    EXPECT_GT(fonts(pdf.indexOf("/Font <<")), fonts(pdf.lastIndexOf("/Font <<")))
+        << "the wares have a font of their own";
+}
+
+TEST_F(PrintTest, ALongPrintTellsHowFarItIsAndCanBeEnded) {
+    ui::HtmlView page(nullptr);
+    page.Navigate(QByteArray("Zeile\r\n").repeated(5000).toStdString());
+    QWidget desk;
+    int events = 0;
+    const auto process = [&] {
+        const auto* box = Find<QProgressDialog>(&desk, "PrintProgress");
+        EXPECT_EQ(box != nullptr, ++events > 1);
+        if (box) {
+            EXPECT_TRUE(box->labelText().endsWith(" von 5000 wird auf Seiten verteilt."));
+            EXPECT_EQ(box->maximum(), 5000);
+            Press(*box, "Abbrechen");
+        } else {
+            QThread::msleep(1000);
+        }
+        return true;
+    };
+    EXPECT_TRUE(ui::PrintPage({desk, SystemFiles(), {}, process}, page)) << "it did not fail";
+    EXPECT_EQ(events, 2);
+    EXPECT_EQ(page.PageCount(), 0);
+    EXPECT_FALSE(QApplication::overrideCursor());
 }
 
 TEST_F(PrintTest, AFailingPrinterIsToldAndClosingTheWindowEndsAPrint) {
@@ -203,7 +234,7 @@ TEST_F(PrintTest, AFailingPrinterIsToldAndClosingTheWindowEndsAPrint) {
     Dismiss("Die PDF-Datei konnte nicht geschrieben werden.");
     Click("cmdShopDrucken");
     QTimer::singleShot(0, &*window, [this] { window->close(); });
-    Click("cmdShopDrucken");
+    Click("cmdListeDrucken");
     EXPECT_FALSE(window->isVisible());
 }
 

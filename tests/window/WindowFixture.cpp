@@ -12,7 +12,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
-#include <QPrinter>
 #include <QTest>
 
 namespace emporium::test {
@@ -136,13 +135,13 @@ void WindowTest::SaveAs(const QString& file) {
     });
 }
 
-void WindowTest::PrintTo(const QString& file, int page) {
-    Expect([this, file, page](QWidget& widget) {
+void WindowTest::PrintTo(const QString& file, std::function<void(QPrinter&)> choose) {
+    Expect([this, file, choose = std::move(choose)](QWidget& widget) {
         EXPECT_FALSE(Find("cmdShopEditor")->isEnabled()) << "a print under way takes no commands";
         auto& dialog = dynamic_cast<QPrintDialog&>(widget);
         dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
         dialog.printer()->setOutputFileName(file);
-        dialog.printer()->setFromTo(page, page);
+        choose(*dialog.printer());
         dialog.done(QDialog::Accepted);
     });
 }

@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPointer>
+#include <QPrinter>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -79,8 +80,8 @@ protected:
 
     void SaveAs(const QString& file);
 
-    /// Prints into a PDF file by the next dialog: one page, or all for 0.
-    void PrintTo(const QString& file, int page = 0);
+    /// Prints into a PDF file by the next dialog, where the user chooses that.
+    void PrintTo(const QString& file, std::function<void(QPrinter&)> choose = [](QPrinter&) {});
 
     /// Clicks the button that bears the text, "&" left aside.
     static void Press(const QWidget& dialog, const QString& text);
