@@ -14,11 +14,15 @@ namespace emporium {
 
 namespace {
 
+std::string_view FirstLine(std::string_view text) {
+    std::string_view line;
+    LineReader(text).Next(line);
+    return line;
+}
+
 // What the first line says, nothing if it is no number.
 std::optional<double> CountIn(std::string_view listText) {
-    std::string_view line;
-    LineReader(listText).Next(line);
-    return ReadGermanNumber(line);
+    return ReadGermanNumber(FirstLine(listText));
 }
 
 std::vector<std::string> NamesIn(std::string_view listText, std::size_t limit) {
@@ -63,7 +67,7 @@ std::string CategoryListFault(const CategoryList& list) {
     if (count && *count >= 0 && *count <= static_cast<double>(list.names.size()))
         return {}; // names that are not counted are names all the same
     const std::string counted =
-        count ? std::string("Die erste Zeile zählt "_ansi) + GermanNumberText(*count)
+        count ? std::string("Die erste Zeile zählt "_ansi).append(Trim(FirstLine(list.bytes)))
               : "In der ersten Zeile fehlt die Zahl der";
     return std::string(file) + counted + " Kategorien, gelesen wurden " +
            std::to_string(list.names.size()) +
@@ -83,9 +87,7 @@ CategoryList WithoutCategory(const CategoryList& list, std::string_view name) {
     std::string_view rest = list.bytes;
     for (bool isNumber = true; !rest.empty(); isNumber = false) {
         const auto end = std::min(rest.find('\n'), rest.size() - 1) + 1;
-        std::string_view line;
-        LineReader(rest).Next(line);
-        if (isNumber || line != name)
+        if (isNumber || FirstLine(rest) != name)
             text.append(rest.substr(0, end));
         rest.remove_prefix(end);
     }

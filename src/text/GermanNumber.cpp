@@ -3,10 +3,10 @@
 #include "text/Ansi.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace emporium {
 
@@ -59,15 +59,6 @@ std::int16_t RoundToInt16(double number) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(
         std::clamp<double>(std::nearbyint(number), Limits::min(), Limits::max()));
-}
-
-std::string GermanNumberText(double value) {
-    std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::general, 15);
-    std::string text(buffer.data(), result.ptr);
-    std::replace(text.begin(), text.end(), '.', ',');
-    return text;
 }
 
 } // namespace emporium

@@ -1,10 +1,9 @@
-// Numbers as the user reads and writes them: German notation, a decimal comma, points between
-// thousands. No locale is consulted anywhere.
+// Numbers as the user writes them: German notation, a decimal comma, points between thousands. No
+// locale is consulted anywhere.
 #pragma once
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace emporium {
@@ -16,8 +15,5 @@ std::optional<double> ReadGermanNumber(std::string_view text);
 
 /// The number rounded to a whole one, ties to the even number; beyond 16 bits the nearest limit.
 std::int16_t RoundToInt16(double number);
-
-/// The value with at most 15 significant digits, without trailing zeros and thousands separators.
-std::string GermanNumberText(double value);
 
 } // namespace emporium
