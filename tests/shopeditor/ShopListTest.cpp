@@ -129,6 +129,7 @@ TEST_F(ShopList, RowsStandSortedByTheTextOfOneColumn) {
     for (const auto next : {"Zelt 2S"_ansi, "Ähre 12S"_ansi, "Schwert 2 120D"_ansi}) {
         RemoveShopRow(shop, script.platform);
         EXPECT_EQ(Current(), next);
+        EXPECT_EQ(shop.lvLaden.reveal.row, shop.lvLaden.current);
     }
 }
 
