@@ -33,7 +33,7 @@ void BuildMove(Session& session, QWidget* page, const char* name, const QString&
 
 } // namespace
 
-void BuildAvailability(Session& session, QWidget* page) {
+void BuildAvailabilityPage(Session& session, QWidget* page) {
     auto& items = session.state.items;
     auto* others = BuildRegions(session, page, "Frame3", "Regionen", 105, "lstRegionen", 4245);
     const auto move = [&](const char* name, const QString& caption, const QString& meaning, int top,

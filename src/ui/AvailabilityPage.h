@@ -6,6 +6,6 @@
 namespace emporium::ui {
 
 /// Builds the two lists of regions and the buttons between them into the page.
-void BuildAvailability(Session& session, QWidget* page);
+void BuildAvailabilityPage(Session& session, QWidget* page);
 
 } // namespace emporium::ui

@@ -29,7 +29,7 @@ ItemEditorPane::ItemEditorPane(QWidget* window, Session& session)
     tab_ = Named(new QTabWidget(window), "ItemTab"); // behind the list, as the Tab key goes
     Place(tab_, 3240, 360, 6255, 6255);
     BuildProperties();
-    BuildAvailability(session_, AddPage("Verfügbarkeit"));
+    BuildAvailabilityPage(session_, AddPage("Verfügbarkeit"));
     BuildNotice();
     session_.mirror.Bind(tab_, [this] { return session_.state.mode == Mode::ItemEditor; });
 }

@@ -235,36 +235,6 @@ TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
     }
 }
 
-TEST(Journal, OnlyAWholeJournalIsRead) {
-    const std::string text =
-        JournalText({Entry("Ö 1.dat", std::nullopt, ""),
-                     {"b.dat", "", Fingerprint{1U << 31U, 7}, FingerprintOf("")}});
-    const auto read = ReadJournal(text);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(JournalText(*read), text);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        EXPECT_FALSE(ReadJournal(text.substr(0, i))) << i;
-        std::string damaged = text;
-        damaged[i] = static_cast<char>(damaged[i] ^ 1);
-        EXPECT_FALSE(ReadJournal(damaged)) << i;
-    }
-    EXPECT_FALSE(ReadJournal(text + text));
-}
-
-TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
-    const ProgramFolder program;
-    const FileLayer files = SystemFiles();
-    const fs::path folder = program.folders.EmporiumFolder();
-    const FolderClaim first = files.claim(folder);
-    EXPECT_FALSE(first.takenElsewhere);
-    EXPECT_TRUE(files.claim(folder).takenElsewhere);
-    std::shared_ptr<void> mine, others;
-    EXPECT_FALSE(files.lock(folder, mine));
-    EXPECT_EQ(files.lock(folder, others), std::errc::device_or_resource_busy);
-    mine.reset();
-    EXPECT_FALSE(files.lock(folder, others));
-}
-
 TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
     std::vector<std::string> faults(12, "x");
     const std::string twelve = FaultsText(faults);
