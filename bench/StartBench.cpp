@@ -20,9 +20,11 @@ namespace {
 
 using emporium::ui::MainWindow;
 
-std::unique_ptr<QWidget> MakeWindow(const char* what) {
-    if (std::strcmp(what, "empty") != 0)
-        return std::make_unique<MainWindow>(emporium::ui::PathFrom(QFile::decodeName(what)));
+std::unique_ptr<QWidget> ProgramWindow(const char* folder) {
+    return std::make_unique<MainWindow>(emporium::ui::PathFrom(QFile::decodeName(folder)));
+}
+
+std::unique_ptr<QWidget> EmptyWindow() {
     auto window = std::make_unique<QWidget>();
     window->setFixedSize(632, 453);
     return window;
@@ -43,8 +45,10 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     if (argc < 2)
         return 2;
+    const bool empty = std::strcmp(argv[1], "empty") == 0;
+    const auto fonts = empty ? std::future<void>() : emporium::ui::ListFonts();
     emporium::ui::SetUpApplication(application);
-    const auto window = MakeWindow(argv[1]);
+    const auto window = empty ? EmptyWindow() : ProgramWindow(argv[1]);
     window->show();
     window->repaint();
     QApplication::processEvents();

@@ -5,6 +5,7 @@
 int main(int argc, char** argv) {
     emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
+    const auto fonts = emporium::ui::ListFonts();
     emporium::ui::SetUpApplication(application);
     emporium::ui::MainWindow window(emporium::RunningProgramFolder());
     if (!window.Started())

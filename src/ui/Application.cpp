@@ -11,7 +11,6 @@
 #include <QPalette>
 #include <QSettings>
 #include <QStyle>
-#include <QThreadPool>
 #include <QTranslator>
 
 namespace emporium::ui {
@@ -38,9 +37,14 @@ QPalette LightPalette() {
     return palette;
 }
 
+bool HasWindowsStyle() {
+    return QApplication::style()->objectName().startsWith("windows");
+}
+
 // The size at which every caption and entry fits its place at scale factor 1. The first family is
 // one that the system has: for another, Qt would search all fonts.
-QFont WindowFont(const QString& family) {
+QFont WindowFont() {
+    const char* family = HasWindowsStyle() ? "Microsoft Sans Serif" : "Liberation Sans";
     QFont font({family, "Liberation Sans", "Arial", "Sans Serif"});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(11);
@@ -53,14 +57,11 @@ void PrepareApplication() {
     QApplication::setDesktopSettingsAware(false);
 }
 
-void SetUpApplication(QApplication& application) {
-    const bool windows = QApplication::style()->objectName().startsWith("windows");
-    const char* family = windows ? "Microsoft Sans Serif" : "Liberation Sans";
-    QApplication::setFont(WindowFont(family));
-    // The first use of a font lists all that the system has, which an idle core does meanwhile. The
-    // font is one of its own, since threads can't share one.
-    QThreadPool::globalInstance()->start([family] { QFontMetrics(WindowFont(family)).height(); });
+std::future<void> ListFonts() {
+    return std::async(std::launch::async, [font = WindowFont()] { QFontMetrics(font).height(); });
+}
 
+void SetUpApplication(QApplication& application) {
     // No display name: the desktop would append it to the window's caption.
     QApplication::setApplicationName(ToQString(ProgramTitle));
     QApplication::setWindowIcon(QIcon(":/orvan-emporium3-256.png"));
@@ -71,7 +72,7 @@ void SetUpApplication(QApplication& application) {
     if (translator->load(":/qtbase_de.qm"))
         QApplication::installTranslator(translator);
 
-    if (!windows) {
+    if (!HasWindowsStyle()) {
         QApplication::setStyle(new WindowStyle);
         // A desktop's own file dialog would speak the desktop's language.
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -79,6 +80,7 @@ void SetUpApplication(QApplication& application) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     }
     QApplication::setPalette(LightPalette());
+    QApplication::setFont(WindowFont());
 }
 
 } // namespace emporium::ui

@@ -4,10 +4,16 @@
 
 #include <QApplication>
 
+#include <future>
+
 namespace emporium::ui {
 
 /// Before the application exists: a desktop's own fonts and colours do not reach in.
 void PrepareApplication();
+
+/// Begins to list the system's fonts, for which the first text would wait, beside the rest of the
+/// start. The application must outlive the result.
+[[nodiscard]] std::future<void> ListFonts();
 
 void SetUpApplication(QApplication& application);
 
