@@ -64,7 +64,6 @@ public:
     State validate(QString& input, int& caret) const override {
         const QString clean = ToQString(CleanInput(input));
         caret -= static_cast<int>(input.size() - clean.size());
-        caret = std::clamp(caret, 0, static_cast<int>(clean.size()));
         input = clean;
         return Acceptable;
     }

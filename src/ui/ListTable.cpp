@@ -93,7 +93,6 @@ ListTable::ListTable(QWidget* parent, QList<TableColumn> columns, TableSource so
 void ListTable::SetUpHeader() {
     auto* captions = new Header(Qt::Horizontal, this);
     setHeader(captions);
-    captions->setStretchLastSection(false);
     captions->setSectionsClickable(true);
     captions->setSortIndicatorShown(true);
     captions->setMinimumSectionSize(10);

@@ -65,10 +65,8 @@ std::filesystem::path ShowSave(QWidget& window, const std::filesystem::path& fol
     QFileDialog dialog(Owner(window), "Speichern unter", PathText(folder), ToQtFilter(filter));
     dialog.setObjectName("CD");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    return PathFrom(dialog.selectedFiles().constFirst());
+    return dialog.exec() == QDialog::Accepted ? PathFrom(dialog.selectedFiles().constFirst())
+                                              : std::filesystem::path();
 }
 
 void SetWaitPointer(bool waiting) {
