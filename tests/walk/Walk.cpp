@@ -30,14 +30,11 @@ protected:
 
     void Compose() {
         Expect([this](QWidget& dialog) {
-            const auto pick = [&dialog](const char* name, const QString& entry) {
-                Pick(Find<QComboBox>(&dialog, name), entry);
-            };
-            pick("cmbShopBeruf", "Gemischtwarenhändler");
-            pick("cmbShopPreise", "Teuer");
-            pick("cmbShopQualität", "2 - Einfach");
+            Pick(&dialog, "cmbShopBeruf", "Gemischtwarenhändler");
+            Pick(&dialog, "cmbShopPreise", "Teuer");
+            Pick(&dialog, "cmbShopQualität", "2 - Einfach");
             Click(Find(&dialog, "chkShopRegion"));
-            pick("cmbShopRegion", "WE");
+            Pick(&dialog, "cmbShopRegion", "WE");
             Picture(dialog, "shopgenerator.png");
             Click(Find(&dialog, "cmdStart"));
         });
@@ -53,7 +50,7 @@ protected:
         Click("cmdShopAnzahl");
         ClickRow("lvLaden", 4);
         Enter("Bitte gebt den neuen Preis ein.", "7,5");
-        ChooseFromMenu("lvLaden", 0);
+        ChooseFromMenu("lvLaden", "Preis ändern …");
         Click("cmdItemHin"); // the tool chosen before
     }
 

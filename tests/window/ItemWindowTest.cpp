@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QTest>
-#include <QWheelEvent>
 
 namespace emporium::test {
 namespace {
@@ -38,7 +37,7 @@ TEST_F(WindowTest, AnItemIsEditedSavedAndDeleted) {
 }
 
 // The list shows a first row as chosen while the form is still empty.
-TEST_F(WindowTest, TheChosenRowOpensByKeyAndStaysHighlighted) {
+TEST_F(WindowTest, RowsOpenByKeyAndByLettersAndQuickHeaderClicksAreTwo) {
     Open();
     Pick("cmbKategorien", "Werkzeug");
     auto* list = Find<ui::ListTable>("lvGegenstände");
@@ -47,17 +46,8 @@ TEST_F(WindowTest, TheChosenRowOpensByKeyAndStaysHighlighted) {
         QTest::keyClick(list, key);
         EXPECT_EQ(FieldText("txtItem0"), "Zange");
     }
-    const QRect row = list->visualRect(list->currentIndex());
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row.center());
-    EXPECT_TRUE(list->selectionModel()->hasSelection());
     QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier);
     EXPECT_TRUE(list->selectionModel()->hasSelection());
-}
-
-TEST_F(WindowTest, TypingFindsBeginningsFirstAndQuickHeaderClicksAreTwo) {
-    Open();
-    Pick("cmbKategorien", "Werkzeug");
-    auto* list = Find<ui::ListTable>("lvGegenstände");
     const QPoint header(10, list->header()->height() / 2);
     QTest::mouseDClick(list->header()->viewport(), Qt::LeftButton, {}, header);
     EXPECT_EQ(Cell("lvGegenstände", 0, 0), "Ahle") << "the second click turns it back";
@@ -88,8 +78,6 @@ TEST_F(WindowTest, RegionsArePickedByHandOnlyAndMove) {
     EXPECT_TRUE(others->selectedItems().isEmpty());
     QTest::mouseClick(chosen->viewport(), Qt::LeftButton, {},
                       chosen->visualItemRect(chosen->item(0)).center());
-    const QPoint empty(5, chosen->viewport()->height() - 2);
-    QTest::mouseClick(chosen->viewport(), Qt::LeftButton, Qt::ControlModifier, empty);
     Click("cmdZurück");
     EXPECT_EQ(others->count(), 20);
     Click("cmdAlleHin");
@@ -111,7 +99,7 @@ TEST_F(WindowTest, ANewItemGoesIntoANewCategoryOnceItHasAUnit) {
     Type("txtItem2", "7x,5,");
     Type("txtItem3", "Kühl");
     Pick("cmbItemWert", "1 - Gibts in jedem Fachgeschäft");
-    Dismiss("Bitte wählt zum Preis auch eine Währung aus.");
+    Answer("Bitte wählt zum Preis auch eine Währung aus.");
     Click("cmdItemSave");
     EXPECT_EQ(window->focusWidget(), Find("cmbItemPreis"));
     Pick("cmbItemPreis", "Heller");
@@ -120,9 +108,7 @@ TEST_F(WindowTest, ANewItemGoesIntoANewCategoryOnceItHasAUnit) {
     EXPECT_EQ(program.Read("Emporium/Öle.dat"_ansi), item);
     ClickRow("lvGegenstände", 0);
     Pick("cmbItemKategorien", "Kräuter");
-    Answer("Ihr habt die Kategorie des Gegenstandes geändert, soll er wirklich einer anderen "
-           "Kategorie zugeordnet werden ?",
-           "Ja");
+    Answer("Ihr habt die Kategorie des Gegenstandes geändert,", "Ja");
     Click("cmdItemSave");
     EXPECT_EQ(program.Read("Emporium/Kräuter.dat"_ansi), item);
     Answer("Soll die gewählte Kategorie wirklich gelöscht werden ?", "Ja");

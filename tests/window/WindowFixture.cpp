@@ -65,7 +65,8 @@ void WindowTest::Click(QWidget* widget) {
     QTest::mouseClick(widget, Qt::LeftButton);
 }
 
-void WindowTest::Pick(QComboBox* list, const QString& entry) {
+void WindowTest::Pick(const QWidget* parent, const QString& name, const QString& entry) {
+    auto* list = Find<QComboBox>(parent, name);
     list->showPopup();
     QAbstractItemView* view = list->view();
     const QModelIndex index = view->model()->index(list->findText(entry), 0);
@@ -88,12 +89,18 @@ void WindowTest::ClickRow(const QString& name, int row) const {
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
 }
 
-void WindowTest::ChooseFromMenu(const QString& name, int entry) const {
+void WindowTest::ChooseFromMenu(const QString& name, const QString& entry) const {
     auto* list = Find<ui::ListTable>(name);
-    QTimer::singleShot(50, list, [entry] {
+    QTimer::singleShot(50, list, [list, entry] {
         auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
-        menu.setActiveAction(menu.actions().at(entry));
+        const QPoint row = list->visualRect(list->currentIndex()).bottomLeft();
+        const QPoint off = menu.pos() - list->viewport()->mapToGlobal(row);
+        EXPECT_LT(off.manhattanLength(), 30) << "the menu opens at the row";
+        for (QAction* action : menu.actions())
+            if (action->text() == entry)
+                menu.setActiveAction(action);
         QTest::keyClick(&menu, Qt::Key_Return);
+        menu.close();
     });
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(list->viewport(), &event);
@@ -104,18 +111,11 @@ void WindowTest::Expect(std::function<void(QWidget& dialog)> handler) {
     handlers_.push_back(std::move(handler));
 }
 
-void WindowTest::Answer(const QString& text, const QString& button) {
-    Expect([text, button](QWidget& dialog) {
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).text(), text);
-        Press(dialog, button);
-    });
-}
-
-void WindowTest::Dismiss(const QString& beginning) {
-    Expect([beginning](QWidget& dialog) {
+void WindowTest::Answer(const QString& beginning, const QString& button) {
+    Expect([beginning, button](QWidget& dialog) {
         const QString text = dynamic_cast<QMessageBox&>(dialog).text();
         EXPECT_TRUE(text.startsWith(beginning)) << qPrintable(text);
-        Press(dialog, "OK");
+        Press(dialog, button);
     });
 }
 

@@ -51,11 +51,9 @@ protected:
     static void Click(QWidget* widget);
     void Click(const QString& name) const { Click(Find(name)); }
 
-    /// Opens the list and clicks the entry.
-    static void Pick(QComboBox* list, const QString& entry);
-    void Pick(const QString& name, const QString& entry) const {
-        Pick(Find<QComboBox>(name), entry);
-    }
+    /// Opens a drop-down list and chooses the entry.
+    static void Pick(const QWidget* parent, const QString& name, const QString& entry);
+    void Pick(const QString& name, const QString& entry) const { Pick(&*window, name, entry); }
 
     /// Clicks into a text field, selects what it holds and types the text over it.
     void Type(const QString& name, const QString& text) const;
@@ -63,17 +61,14 @@ protected:
     /// Clicks a row of a list view, from 0 as it stands on the screen.
     void ClickRow(const QString& name, int row) const;
 
-    /// Opens a list's menu by key and chooses an entry, from 0.
-    void ChooseFromMenu(const QString& name, int entry) const;
+    /// Opens a list's menu by key and chooses the entry.
+    void ChooseFromMenu(const QString& name, const QString& entry) const;
 
     /// The next box or dialog that opens is handed to the handler, which must close it.
     void Expect(std::function<void(QWidget& dialog)> handler);
 
-    /// Presses a button of the next yes/no box, which must bear the text.
-    void Answer(const QString& text, const QString& button);
-
-    /// Closes the next message box, which must begin with the text.
-    void Dismiss(const QString& beginning);
+    /// Presses a button of the next message box, which must begin with the text.
+    void Answer(const QString& beginning, const QString& button = "OK");
 
     /// Types into the next input box and confirms it.
     void Enter(const QString& prompt, const QString& text);
@@ -81,7 +76,8 @@ protected:
     void SaveAs(const QString& file);
 
     /// Prints into a PDF file by the next dialog, where the user chooses that.
-    void PrintTo(const QString& file, std::function<void(QPrinter&)> choose = [](QPrinter&) {});
+    void PrintTo(
+        const QString& file, std::function<void(QPrinter&)> choose = [](QPrinter&) {});
 
     /// Clicks the button that bears the text, "&" left aside.
     static void Press(const QWidget& dialog, const QString& text);
