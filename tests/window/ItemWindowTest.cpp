@@ -30,7 +30,6 @@ TEST_F(WindowTest, AnItemIsEditedSavedAndDeleted) {
 
     Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     QTest::keyClick(Find("lvGegenstände"), Qt::Key_Delete);
-    QTest::qWait(50);
     Answer("Wollt ihr den gewählten Gegenstand wirklich löschen ?", "Ja");
     Click("cmdItemDelete");
     EXPECT_TRUE(program.Read("Emporium/Werkzeug.dat").starts_with("Ahle1"));

@@ -19,8 +19,7 @@ QStringList Places(const QWidget& parent) {
             control->inherits("QToolButton"))
             continue;
         const QRect at = control->geometry();
-        for (const int number : {at.x(), at.y(), at.width(), at.height()})
-            name += QString(" %1").arg(number);
+        name += QString(" %1 %2 %3 %4").arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height());
         places += name;
         if (control->focusPolicy() & Qt::TabFocus && !control->focusProxy()) {
             const auto* reader = QAccessible::queryAccessibleInterface(control);

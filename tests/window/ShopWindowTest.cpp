@@ -16,13 +16,11 @@ namespace {
 
 class ShopWindowTest : public WindowTest {
 protected:
+    // A shop with Ahle and Zange.
     void OpenShop() {
         Open();
         Pick("cmbKategorien", "Werkzeug");
         Click("cmdShopEditor");
-    }
-
-    void AddWares() {
         for (const int row : {0, 2}) {
             ClickRow("lvGegenstände", row);
             Click("cmdItemHin");
@@ -38,7 +36,6 @@ protected:
 
 TEST_F(ShopWindowTest, ADoubleClickPricesAWareAndALevelCanBePickedAgain) {
     OpenShop();
-    AddWares();
     ClickRow("lvLaden", 1);
     Enter("Bitte gebt den neuen Preis ein.", "1,5");
     auto* list = Find<ui::ListTable>("lvLaden");
@@ -56,7 +53,6 @@ TEST_F(ShopWindowTest, ADoubleClickPricesAWareAndALevelCanBePickedAgain) {
 
 TEST_F(ShopWindowTest, DeleteRemovesInTheListOnlyAndOnlyWhatWasPicked) {
     OpenShop();
-    AddWares();
     auto* list = Find<ui::ListTable>("lvLaden");
     list->setFocus(Qt::TabFocusReason);
     Answer("Bitte wählt zuerst eine Ware");
@@ -69,18 +65,15 @@ TEST_F(ShopWindowTest, DeleteRemovesInTheListOnlyAndOnlyWhatWasPicked) {
     EXPECT_EQ(Cell("lvLaden", 0, 0), "Ahle");
     // No click takes the light from the row.
     const QRect first = list->visualRect(list->model()->index(0, 0));
-    for (const QPoint place : {first.center(), first.center() + QPoint(0, 100)}) {
+    for (const QPoint place : {first.center(), first.center() + QPoint(0, 100)})
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
-        EXPECT_TRUE(list->selectionModel()->hasSelection());
-    }
+    EXPECT_TRUE(list->selectionModel()->hasSelection());
     QTest::keyClick(list, Qt::Key_Delete);
-    EXPECT_FALSE(Find("cmbShopPreise")->isEnabled());
+    EXPECT_FALSE(Find("cmbShopPreise")->isEnabled() || Find("cmdShopAnzahl")->isEnabled());
 }
 
 TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
     OpenShop();
-    AddWares();
     auto* list = Find<ui::ListTable>("lvLaden");
     ClickRow("lvLaden", 1);
     Enter("Bitte gebt den neuen Preis ein.", "1,5");
@@ -114,7 +107,6 @@ TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
 
 TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
     OpenShop();
-    AddWares();
     Answer("Ihr arbeitet momentan an einem Shop,", "Ja");
     Expect([](QWidget& dialog) {
         Click(Find(&dialog, "chkShopRegion"));
@@ -143,8 +135,6 @@ TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
 
 TEST_F(ShopWindowTest, EveryFieldReachesTheExportThatIsLookedAt) {
     OpenShop();
-    EXPECT_FALSE(Find("cmdShopAnzahl")->isEnabled());
-    AddWares();
     for (const QString& name : {QString(40, 'm'), QString("Esel")}) {
         Type("txtName", name);
         QHelpEvent event(QEvent::ToolTip, {}, {});
@@ -184,7 +174,6 @@ TEST_F(PrintTest, APrintIsTextAndLoadsNothingAndOnePageCanBePrintedAlone) {
     QApplication::clipboard()->setText("<img src='file://" + Output("bild.png") + "'>" +
                                        QString("<b>").repeated(50'000) + QString(1'000'000, 'x'));
     Find<QLineEdit>("txtName")->paste();
-    AddWares();
     const auto pages = [this](const std::function<void(QPrinter&)>& choose) {
         PrintTo(Output("shop.pdf"), choose);
         Click("cmdShopDrucken");

@@ -8,7 +8,6 @@
 #include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QInputDialog>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -19,10 +18,8 @@ namespace emporium::test {
 namespace {
 
 void TypeInto(QWidget* field, const QString& text) {
-    for (const QChar c : text) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, c);
-        QApplication::sendEvent(field, &press);
-    }
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Press, field, Qt::Key_unknown, c, {});
 }
 
 } // namespace
