@@ -15,14 +15,10 @@
 
 namespace emporium::test {
 
-namespace {
-
-void TypeInto(QWidget* field, const QString& text) {
+static void TypeInto(QWidget* field, const QString& text) {
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Press, field, Qt::Key_unknown, c, {});
 }
-
-} // namespace
 
 WindowTest::WindowTest() {
     program.Write("Emporium/ItemKategorien.dat", Lines({" 2 ", "Werkzeug", "Öle"_ansi}));
