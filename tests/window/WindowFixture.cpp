@@ -24,7 +24,7 @@ WindowTest::WindowTest() {
     program.Write("Emporium/ItemKategorien.dat", Lines({" 2 ", "Werkzeug", "Öle"_ansi}));
     program.Write("Emporium/Werkzeug.dat",
                   Lines({"Zange2", "40", "15S", "Greift fest zu.", "BO|GA|", "Ahle1", "2", "8H",
-                         "Sticht.", "", "Öse1"_ansi, "1", "3P", "", "NO|"}));
+                         "Sticht.", "", "Öse1"_ansi, "X1", "3P", "", "NO|"}));
     program.Write("Emporium/Öle.dat"_ansi, "");
     program.Write("Emporium/ShopgeneratorShops.dat", Lines({"Schmied", "Krämer"_ansi}));
     program.Write("Emporium/ShopgeneratorConfig.dat",
