@@ -91,6 +91,27 @@ TEST_F(ArsenalImport, OnlyEverAddsAndNothingASecondTime) {
     }
 }
 
+TEST_F(ArsenalImport, EachCategoryHasASourceOfItsOwnForm) {
+    const struct {
+        std::string file;
+        std::size_t lines, description, price, unit;
+    } forms[] = {{"Nahkampfwaffen.dat", 28, 3, 10, 26},
+                 {"Fernwaffen.dat", 22, 3, 8, 20},
+                 {std::string("Rüstungen.dat"_ansi), 19, 2, 8, 17}};
+    for (const auto& form : forms) {
+        const auto line = [](std::size_t n) { return "DSHP"[n % 4] + std::to_string(n); };
+        std::string source = "Kopf\r\n--\r\n";
+        for (std::size_t i = 0; i < form.lines; ++i)
+            source += line(i) + "\r\n";
+        disk.Write("Arsenal/" + form.file, source);
+        disk.Write("Emporium/" + form.file, "");
+        Import();
+        EXPECT_EQ(disk.Read("Emporium/" + form.file),
+                  Lines({line(0) + "1", line(1), line(form.price) + line(form.unit)[0],
+                         line(form.description), line(form.lines - 1)}));
+    }
+}
+
 TEST_F(ArsenalImport, ACategoryTakesNoMoreThanAViewCanShow) {
     std::string before;
     for (int i = 0; i < MaxRows - 1; ++i)
