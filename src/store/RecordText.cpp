@@ -40,7 +40,9 @@ std::string WithLinesAt(std::string_view bytes, const RecordView& place, std::st
     bytes = WholeRecords(bytes);
     const auto begin = static_cast<std::size_t>(place.front().data() - bytes.data());
     const auto end = EndOf(place, bytes);
-    return std::string(bytes.substr(0, begin)).append(lines).append(bytes.substr(end));
+    std::string text;
+    text.reserve(bytes.size() + lines.size()); // so that they are copied once
+    return text.append(bytes.substr(0, begin)).append(lines).append(bytes.substr(end));
 }
 
 } // namespace
