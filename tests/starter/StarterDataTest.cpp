@@ -97,7 +97,7 @@ TEST(StarterData, PricesHangTogether) {
         {"Wolldecke", "Schafwolle, ein Sack", 1, 5, true},
         {"Goldkette", "Silber, ein Barren", 16, 40, true},
         {"Fuchspelzmantel", "Fuchsfell, rot", 2, 50, false},
-        {"Reitpferd", "Reitpferd, ein Tag", 50, 1000, false},
+        {"Reitpferd", "Mietpferd, ein Tag", 50, 1000, false},
         {"Langschwert", "Einzelkammer, eine Nacht", 50, 200, false},
     };
     for (const auto& [one, other, least, most, byWeight] : relations) {
