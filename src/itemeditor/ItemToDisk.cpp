@@ -13,11 +13,11 @@ namespace emporium {
 const WriteWording SavingWords = {
     "Der Gegenstand konnte nicht gespeichert werden.",
     ".dat wurde inzwischen von einem anderen Programm geändert. Soll euer Stand trotzdem "
-    "gespeichert werden ? Die andere Änderung geht dann verloren."_ansi};
+    "gespeichert werden? Die andere Änderung geht dann verloren."_ansi};
 const WriteWording DeletingWords = {
     "Der Gegenstand konnte nicht gelöscht werden."_ansi,
     ".dat wurde inzwischen von einem anderen Programm geändert. Soll der Gegenstand trotzdem "
-    "gelöscht werden ? Die andere Änderung geht dann verloren."_ansi};
+    "gelöscht werden? Die andere Änderung geht dann verloren."_ansi};
 
 namespace {
 

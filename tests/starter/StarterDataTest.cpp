@@ -91,9 +91,13 @@ TEST(StarterData, PricesHangTogether) {
         {"Roggenbrot, Laib", "Mehl, ein Beutel", 1.1, 3, true},
         {"Salz, ein Sack", "Salz, ein Säckchen"_ansi, 0.2, 1, true},
         {"Käseräder, zehn"_ansi, "Bergkäse, ein Stück"_ansi, 0.2, 1, true},
-        {"Goldkette", "Silber, ein Barren", 10, 40, true},
+        {"Rohseide, ein Ballen", "Seide, Elle", 0.2, 1, true},
+        {"Tabakblätter, ein Fass"_ansi, "Landtabak, Beutel", 0.2, 1, true},
+        {"Schwämme, ein Netz"_ansi, "Badeschwamm", 0.2, 1, true},
+        {"Wolldecke", "Schafwolle, ein Sack", 1, 5, true},
+        {"Goldkette", "Silber, ein Barren", 16, 40, true},
         {"Fuchspelzmantel", "Fuchsfell, rot", 2, 50, false},
-        {"Reitpferd", "Reitpferd, ein Tag", 50, 1000, false},
+        {"Reitpferd", "Mietpferd, ein Tag", 50, 1000, false},
         {"Langschwert", "Einzelkammer, eine Nacht", 50, 200, false},
     };
     for (const auto& [one, other, least, most, byWeight] : relations) {
