@@ -1,43 +1,49 @@
 #!/usr/bin/env bash
 # clang-tidy over the program's sources: check_lint.sh BUILD_FOLDER [NAME_PATTERN [ARGUMENT...]]
-# Reads the sources whose name fits the pattern, with the build's commands and the arguments. What was
-# clean is not read again before the build compiles it anew, so until it or what it includes changes.
+# Reads the sources whose name fits the pattern, with the build's commands and the arguments, a folder
+# in one piece, because most of the time goes into the headers that its sources share. What was clean
+# is not read again before the build compiles it anew, so until it or what it includes changes.
 cd "$(dirname "$0")/.." || exit 1
 build=$(realpath "$1")
 pattern=${2:-*.cpp}
 shift $(($# < 2 ? $# : 2))
 [ -e "$build/compile_commands.json" ] || { echo "no commands in $build"; exit 1; }
-
-# Nothing that GCC precompiled can be read by clang-tidy's compiler.
 mkdir -p "$build/lint"
-sed -E 's/ -Winvalid-pch -include [^ ]+//; s/ -fpch-preprocess//' "$build/compile_commands.json" \
-    >"$build/lint/compile_commands.json"
 
+# Writes every folder's piece and names those that have to be read.
 unclean() {
-    find src -name "$pattern" | while read -r source; do
-        grep -q "$source\"" "$build/compile_commands.json" || continue # of the other system
-        clean=$build/lint/${source//\//-}
-        if [ ! -e "$clean" ] || [ .clang-tidy -nt "$clean" ] || [ tests/check_lint.sh -nt "$clean" ] ||
-            [ -n "$(find "$build/src" -name "${source##*/}.o*" -newer "$clean")" ]; then
-            echo "$source"
+    for folder in src/*/; do
+        name=$(basename "$folder")
+        clean=$build/lint/$name.clean
+        find "$PWD/src/$name" -name "$pattern" | sort | while read -r source; do
+            grep -q "\"file\": \"$source\"" "$build/compile_commands.json" || continue # of the other system
+            echo "#include \"$source\""
+        done >"$build/lint/$name.cpp"
+        [ -s "$build/lint/$name.cpp" ] || continue
+        if [ .clang-tidy -nt "$clean" ] || [ tests/check_lint.sh -nt "$clean" ] ||
+            [ -n "$(find "$build/src" -path "*/$name/*.o*" -newer "$clean")" ]; then
+            echo "$name"
         fi
     done
 }
 
-# lint SOURCE ARGUMENT...: the mark is as old as the start, lest it hide what changes meanwhile.
+# lint NAME ARGUMENT...: the mark is as old as the start, lest it hide what changes meanwhile.
 lint() {
-    source=$1
+    piece=$build/lint/$1
     shift
-    mark=$build/lint/${source//\//-}
-    touch "$mark.begun"
-    # GCC's own warning flags are unknown to clang-tidy's compiler.
-    clang-tidy --quiet -p "$build/lint" --extra-arg=-Wno-unknown-warning-option "$@" "$source" 2>&1 ||
-        return 1
-    mv "$mark.begun" "$mark"
+    touch "$piece.begun"
+    # Of the compiler's command clang-tidy needs the flags, without what GCC precompiled.
+    source=$(sed -nE '1s/#include (.*)/\1/p' "$piece.cpp")
+    command=$(grep -B1 "\"file\": $source" "$build/compile_commands.json" |
+        sed -nE 's/.*"command": "[^ ]+ (.*) -o .*/\1/; s/ -Winvalid-pch -include [^ ]+//; s/ -fpch-preprocess//p')
+    clang-tidy --quiet --config-file=.clang-tidy --header-filter='/src/[a-z]+/[^/]+$' \
+        --checks=-bugprone-suspicious-include "$piece.cpp" -- \
+        $command -Wno-unknown-warning-option "$@" 2>&1 || return 1
+    mv "$piece.begun" "$piece.clean"
 }
 
 export build
 export -f lint
-unclean | xargs -d '\n' -I SOURCE -P "$(nproc)" bash -c 'lint "$@"' lint SOURCE "$@" |
+unclean | xargs -I NAME -P "$(nproc)" bash -c 'lint "$@"' lint NAME "$@" |
     grep -vE '^[0-9]+ warnings? generated|^Suppressed|^Use -header-filter'
 exit "${PIPESTATUS[1]}"

@@ -158,8 +158,8 @@ std::error_code WriteBeside(const FileLayer& files, const fs::path& target,
     return error;
 }
 
-std::error_code Overwrite(const FileLayer& files, const fs::path& target,
-                          std::string_view contents) {
+std::error_code OverwriteWith(const FileLayer& files, const fs::path& target,
+                              std::string_view contents) {
     FileLayer::Handle handle = 0;
     const std::error_code error = files.overwrite(target, handle);
     return error ? error : WriteAndClose(files, handle, contents);
@@ -169,9 +169,9 @@ std::error_code Overwrite(const FileLayer& files, const fs::path& target,
 std::error_code WriteInPlace(const FileLayer& files, const fs::path& target,
                              std::string_view contents) {
     const FileText before = files.read(target, LargestFile);
-    const std::error_code error = Overwrite(files, target, contents);
+    const std::error_code error = OverwriteWith(files, target, contents);
     if (error && before.IsWhole())
-        static_cast<void>(Overwrite(files, target, before.bytes));
+        static_cast<void>(OverwriteWith(files, target, before.bytes));
     return error;
 }
 

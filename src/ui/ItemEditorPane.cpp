@@ -77,7 +77,7 @@ void ItemEditorPane::ConnectList() {
             [&] { session_.Do([&] { ConfirmDeleteItem(items, platform); }); });
     AddListMenu(session_, *list_, [&]() -> std::vector<MenuEntry> {
         return {
-            {"In den Laden legen", items.cmdItemHin.visible && items.cmdItemHin.enabled,
+            {"In den Shop legen", items.cmdItemHin.visible && items.cmdItemHin.enabled,
              [&] { AddItemToShop(shop, items, platform); }},
             {"Löschen …", items.cmdItemDelete.enabled, [&] { ConfirmDeleteItem(items, platform); }},
             CopyEntry(*list_)};

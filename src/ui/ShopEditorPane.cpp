@@ -90,7 +90,7 @@ void ShopEditorPane::BuildMenu() {
                  [&] { SetShopRowPrice(shop, platform); }},
                 {"Anzahl ändern …", shop.cmdShopAnzahl.enabled,
                  [&] { SetShopRowQuantity(shop, platform); }},
-                {"Aus dem Laden nehmen", shop.cmdShopDelete.enabled,
+                {"Aus dem Shop nehmen", shop.cmdShopDelete.enabled,
                  [&] { RemoveShopRow(shop, platform); }},
                 {removed.empty() ? "Zurückholen" : "Zurückholen: " + MenuText(removed),
                  !shop.removed.empty(), [&] { RecoverShopRow(shop, platform); }},

@@ -80,7 +80,7 @@ TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
     ChooseFromMenu("lvLaden", "Preis ändern …");
     Enter("Bitte gebt eine Zahl an, wie oft der Gegenstand im Shop vorhanden sein soll.", "3");
     Click("cmdShopAnzahl");
-    ChooseFromMenu("lvLaden", "Aus dem Laden nehmen");
+    ChooseFromMenu("lvLaden", "Aus dem Shop nehmen");
     auto* remove = Find("cmdShopDelete");
     remove->setFocus();
     QTest::keyClick(remove, Qt::Key_Return);
@@ -91,7 +91,7 @@ TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
     QTest::keySequence(list, QKeySequence::Copy);
     EXPECT_EQ(QApplication::clipboard()->text(), "Ahle\t8H\nZange (x3)\t1,5S\n");
     ClickRow("lvGegenstände", 1);
-    ChooseFromMenu("lvGegenstände", "In den Laden legen");
+    ChooseFromMenu("lvGegenstände", "In den Shop legen");
     EXPECT_EQ(Wares(), 3);
     list->resize(list->width(), list->header()->height() + 30); // one row
     list->verticalScrollBar()->setValue(1);
