@@ -189,11 +189,11 @@ TEST_F(PrintTest, APrintIsTextAndItsPagesComeAsChosen) {
 
 TEST_F(PrintTest, APrintCanFailAndCanBeEndedByABoxAndByClosingTheWindow) {
     ui::HtmlView page(nullptr);
-    page.Navigate(QByteArray("Zeile\r\n").repeated(5000).toStdString());
+    page.Navigate(QByteArray("Zeile\r\n").repeated(100000).toStdString());
     QWidget desk;
     const auto wait = [&desk] {
         if (const auto* box = Find<QProgressDialog>(&desk, "PrintProgress")) {
-            EXPECT_TRUE(box->labelText().contains(" von 5000 ") && box->maximum() == 5000);
+            EXPECT_TRUE(box->labelText().contains(" von 100000 ") && box->maximum() == 100000);
             Press(*box, "Abbrechen");
         }
         QThread::msleep(1000);
