@@ -1,5 +1,6 @@
 #include "documents/PrintHost.h"
 
+#include "base/Outcome.h"
 #include "files/FileWriting.h"
 #include "text/Ansi.h"
 
@@ -21,10 +22,8 @@ Wait WaitForPage(const PrintHost& host, const Platform& platform) {
     return Wait::Ready;
 }
 
-// Writes the document and has the view load it. Leaves the text of a box in `fault` if that failed;
-// true if the page is there.
-bool Load(PrintHost& host, const Platform& platform, const DocumentWriter& writer,
-          std::string& fault) {
+// Writes the document and has the view load it; stands if the page is there.
+Outcome Load(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
     const auto page = platform.disk.folders.TempFolder / "Temp.html";
     host.PreviewReady = false;
     std::string document;
@@ -32,27 +31,25 @@ bool Load(PrintHost& host, const Platform& platform, const DocumentWriter& write
     const auto& files = platform.disk.files;
     files.createFolder(page.parent_path());
     const auto written = WriteFiles(files, page.parent_path(), {{page, std::move(document)}});
-    if (written.failure) {
-        fault = FailureText("Die Druckseite konnte nicht geschrieben werden.", *written.failure);
-        return false;
-    }
+    if (written.failure)
+        return {false,
+                FailureText("Die Druckseite konnte nicht geschrieben werden.", *written.failure)};
     const Wait wait = platform.Browser.Navigate(page) ? WaitForPage(host, platform) : Wait::Failed;
     host.PreviewReady = false;
     if (wait == Wait::Failed)
-        fault = "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page);
-    return wait == Wait::Ready;
+        return {false, "Die Druckseite konnte nicht geladen werden.\n\nDatei: " + FromPath(page)};
+    return {wait == Wait::Ready, {}};
 }
 
-// The result is the text of a box, empty if all is well.
-std::string Print(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
-    std::string fault;
+Outcome Print(PrintHost& host, const Platform& platform, const DocumentWriter& writer) {
     platform.SetWaitPointer(true);
-    const bool loaded = Load(host, platform, writer, fault);
+    Outcome loaded = Load(host, platform, writer);
     platform.SetWaitPointer(false);
-    if (loaded && !platform.Browser.Print())
-        fault = "Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst abgebrochen "
-                "habt, prüft den Drucker."_ansi;
-    return fault;
+    if (loaded.stands && !platform.Browser.Print())
+        return {false,
+                std::string("Es wurde nichts oder nicht alles gedruckt. Falls ihr nicht selbst "
+                            "abgebrochen habt, prüft den Drucker."_ansi)};
+    return loaded;
 }
 
 } // namespace
@@ -66,11 +63,10 @@ void PrintTempDocument(PrintHost& host, const Platform& platform, const Document
         return;
     host.busy = true;
     platform.Browser.SetVisible(true);
-    const std::string fault = Print(host, platform, writer);
+    const Outcome outcome = Print(host, platform, writer);
     platform.Browser.SetVisible(false);
     host.busy = false;
-    if (!fault.empty())
-        platform.ShowMessage(fault);
+    Tell(platform, outcome);
 }
 
 } // namespace emporium

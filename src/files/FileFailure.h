@@ -12,7 +12,7 @@
 namespace emporium {
 
 /// What failed, and why.
-struct FileFailure {
+struct [[nodiscard]] FileFailure {
     std::filesystem::path file;
     std::error_code reason;
 };

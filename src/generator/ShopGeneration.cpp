@@ -52,11 +52,6 @@ bool PassesRegion(std::string_view availability, std::string_view region, const 
     return RollDice(20) < 20 - 3 * NearestDistance(availability, region);
 }
 
-void AddOnce(std::vector<std::string>& faults, std::string fault) {
-    if (std::find(faults.begin(), faults.end(), fault) == faults.end())
-        faults.push_back(std::move(fault));
-}
-
 // Draws from one category into the shop, without regard to the list's order.
 enum class Drawn { All, CutOff, ShopIsFull };
 
@@ -90,7 +85,7 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
         case Drawn::All:
             break;
         case Drawn::CutOff:
-            AddOnce(faults, std::string(name).append(".dat: ").append(RecordIsCutOff));
+            faults.push_back(std::string(name).append(".dat: ").append(RecordIsCutOff));
             break;
         case Drawn::ShopIsFull:
             faults.emplace_back(ShopFullText);
@@ -101,11 +96,11 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
 
 // The choices count like choices of the user.
 void HandOver(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platform& platform) {
-    shop.cmbShopQualität.Select(dialog.cmbShopQualität.Selection());
+    ChooseShopQuality(shop, dialog.cmbShopQualität.Selection());
     if (shop.ShopCount() > 0)
         ChoosePriceLevel(shop, dialog.cmbShopPreise.Selection());
     ChooseShopRegion(shop, platform, dialog.cmbShopRegion.Selection());
-    shop.txtShopart.text = dialog.cmbShopBeruf.Text();
+    EditShopText(shop.txtShopart, dialog.cmbShopBeruf.Text());
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 // The state of the item editor: the records of the view that is chosen, and the controls that show
-// and edit them. The operations are in CategoryChoice, CategoryCare, ItemList, ItemForm,
-// AvailabilityEditor and ItemSaving.
+// and edit them. The operations are in the files beside this one.
 #pragma once
 
 #include "base/Controls.h"

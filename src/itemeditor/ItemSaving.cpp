@@ -87,10 +87,8 @@ void SaveOutsideView(ItemEditor& editor, const Platform& platform, const ItemRec
     const Disk& disk = platform.disk;
     const Outcome outcome = InTurn(disk, [&]() -> Outcome {
         std::vector<FileChange> changes;
-        if (auto refusal = AppendTo(disk, editor.cmbItemKategorien.Text(), record, changes);
-            !refusal.empty())
-            return {false, std::move(refusal)};
-        return WriteChanges(disk, changes, SavingWords.failed);
+        Outcome added = AppendTo(disk, editor.cmbItemKategorien.Text(), record, changes);
+        return added.stands ? WriteChanges(disk, changes, SavingWords.failed) : added;
     });
     if (Tell(platform, outcome))
         ChooseCategory(editor, platform, editor.cmbItemKategorien.Selection());

@@ -26,8 +26,8 @@ constexpr std::string_view NotWhole =
     "verändert."_ansi;
 constexpr std::string_view Gone = "Diese Kategorie gibt es nicht mehr. Wählt eine andere."_ansi;
 
-std::string RefusalOf(const std::string& category, std::string_view why) {
-    return category + ".dat: " + std::string(why);
+Outcome Refusal(const std::string& category, std::string_view why) {
+    return {false, category + ".dat: " + std::string(why)};
 }
 
 // A missing file is made anew, but not for a category that another program has deleted: nobody
@@ -38,16 +38,17 @@ bool IsListed(const Disk& disk, const std::string& category) {
            std::find(list.names.begin(), list.names.end(), category) != list.names.end();
 }
 
-// Why the row's file can't be written at all; empty if it can.
-std::string FileRefusal(const Disk& disk, const ViewFile& file, const FileText& present,
-                        const WriteWording& words) {
+// Whether the row's file can be written at all.
+Outcome Writable(const Disk& disk, const ViewFile& file, const FileText& present,
+                 const WriteWording& words) {
     if (!file.canBeWritten)
-        return RefusalOf(file.name, NotWhole);
+        return Refusal(file.name, NotWhole);
     if (present.state == FileText::State::Unreadable)
-        return FailureText(words.failed, {CategoryPath(disk.folders, file.name), present.reason});
+        return {false,
+                FailureText(words.failed, {CategoryPath(disk.folders, file.name), present.reason})};
     if (present.state == FileText::State::Absent && !IsListed(disk, file.name))
-        return RefusalOf(file.name, Gone);
-    return {};
+        return Refusal(file.name, Gone);
+    return {true, {}};
 }
 
 using MaybeText = std::optional<std::string>;
@@ -59,15 +60,15 @@ Outcome CompareAndWrite(ItemEditor& editor, const Disk& disk, const RowChange& c
                         const MaybeText& accepted, MaybeText& foreign) {
     const ViewFile& file = editor.FileAt(change.home);
     FileText present = disk.files.read(CategoryPath(disk.folders, file.name), LargestFile);
-    if (auto refusal = FileRefusal(disk, file, present, words); !refusal.empty())
-        return {false, std::move(refusal)};
+    if (Outcome writable = Writable(disk, file, present, words); !writable.stands)
+        return writable;
     if (present.bytes != *file.bytes && present.bytes != accepted) {
         foreign = std::move(present.bytes);
         return {};
     }
     std::vector<FileChange> changes;
-    if (auto refusal = more ? more(changes) : std::string(); !refusal.empty())
-        return {false, std::move(refusal)};
+    if (Outcome added = more ? more(changes) : Outcome{true, {}}; !added.stands)
+        return added;
     changes.push_back({CategoryPath(disk.folders, file.name), FileTextWith(editor, change)});
     Outcome outcome = WriteChanges(disk, changes, words.failed);
     if (outcome.stands)
@@ -98,20 +99,20 @@ bool WriteRow(ItemEditor& editor, const Platform& platform, const RowChange& cha
     }
 }
 
-std::string AppendTo(const Disk& disk, const std::string& category, const ItemRecord& record,
-                     std::vector<FileChange>& changes) {
+Outcome AppendTo(const Disk& disk, const std::string& category, const ItemRecord& record,
+                 std::vector<FileChange>& changes) {
     const auto path = CategoryPath(disk.folders, category);
     const CategoryFile file = ReadCategoryFile(disk, category);
     if (file.state == FileText::State::Unreadable)
-        return FailureText(SavingWords.failed, {path, file.reason});
+        return {false, FailureText(SavingWords.failed, {path, file.reason})};
     if (!file.CanBeWritten())
-        return RefusalOf(category, NotWhole);
+        return Refusal(category, NotWhole);
     if (file.state == FileText::State::Absent && !IsListed(disk, category))
-        return RefusalOf(category, Gone);
+        return Refusal(category, Gone);
     if (file.records.size() >= MaxRows)
-        return RefusalOf(category, CategoryIsFull);
+        return Refusal(category, CategoryIsFull);
     changes.push_back({path, WithRecords(*file.bytes, {record})});
-    return {};
+    return {true, {}};
 }
 
 } // namespace emporium

@@ -2,7 +2,7 @@
 // read, the file is written, and the view takes the change over.
 #pragma once
 
-#include "base/Platform.h"
+#include "base/Outcome.h"
 #include "files/FileWriting.h"
 #include "itemeditor/ItemEditor.h"
 
@@ -24,8 +24,8 @@ extern const WriteWording SavingWords;
 extern const WriteWording DeletingWords;
 
 /// Adds what has to be written together with the row's file, from what the disk holds at that
-/// moment. The result is a refusal, the text of a box; empty if all is well.
-using MoreChanges = std::function<std::string(std::vector<FileChange>& changes)>;
+/// moment. If that does not stand, nothing is written.
+using MoreChanges = std::function<Outcome(std::vector<FileChange>& changes)>;
 
 /// Writes the file of the view that the row belongs to, and takes the change over into the records.
 /// If another program has changed the file, the user is asked; if he does not want to write over
@@ -33,10 +33,9 @@ using MoreChanges = std::function<std::string(std::vector<FileChange>& changes)>
 bool WriteRow(ItemEditor& editor, const Platform& platform, const RowChange& change,
               const WriteWording& words, const MoreChanges& more = {});
 
-/// Adds the file of a category with the record behind its last one. The result is a refusal if that
-/// file can't be read whole or is full, or if the category is gone; empty if all is well. The
-/// caller holds the turn.
-std::string AppendTo(const Disk& disk, const std::string& category, const ItemRecord& record,
-                     std::vector<FileChange>& changes);
+/// Adds the file of a category with the record behind its last one. Adds nothing, and says why, if
+/// that file can't be read whole or is full, or if the category is gone. The caller holds the turn.
+Outcome AppendTo(const Disk& disk, const std::string& category, const ItemRecord& record,
+                 std::vector<FileChange>& changes);
 
 } // namespace emporium

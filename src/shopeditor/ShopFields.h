@@ -1,5 +1,5 @@
-// The fields that describe the shop as a whole and take more than a choice: its region and its
-// owner.
+// What the user does to the fields that describe the shop as a whole; the price level, which
+// changes the wares, is ShopPricing's.
 #pragma once
 
 #include "base/Platform.h"

@@ -44,12 +44,6 @@ Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work) {
     return outcome;
 }
 
-bool Tell(const Platform& platform, const Outcome& outcome) {
-    if (!outcome.text.empty())
-        platform.ShowMessage(outcome.text);
-    return outcome.stands;
-}
-
 Outcome WriteChanges(const Disk& disk, const std::vector<FileChange>& changes,
                      std::string_view what) {
     const auto result = WriteFiles(disk.files, disk.folders.EmporiumFolder(), changes);

@@ -2,7 +2,7 @@
 // writes them holds the turn meanwhile, against other copies of the program, on other machines too.
 #pragma once
 
-#include "base/Platform.h"
+#include "base/Outcome.h"
 #include "files/FileWriting.h"
 
 #include <functional>
@@ -12,19 +12,10 @@
 
 namespace emporium {
 
-/// What an operation on the stored data came to, and what the user is to be told of it.
-struct [[nodiscard]] Outcome {
-    bool stands = false; // what was wanted is on the disk, or will be when a failure has passed
-    std::string text;    // of a box that opens when the turn is over; mostly empty
-};
-
 /// Waits some seconds for the turn, finishes an interrupted write and then does the work, in which
 /// no box may open. What that write has left to tell stands above the work's text. If the turn
 /// can't be had the work is not done, and the text says why.
 Outcome InTurn(const Disk& disk, const std::function<Outcome()>& work);
-
-/// Opens the outcome's box if there is something to tell; true if what was wanted stands.
-bool Tell(const Platform& platform, const Outcome& outcome);
 
 /// Writes files of the categories' folder, see WriteFiles; the caller has the turn. `what` begins
 /// the text of a failure: what could not be done.
