@@ -38,7 +38,7 @@ wrong=$(awk -v layers="$layers" '
 loops_of() { sed -E "$1" <<<"$includes" | awk '$1 != $2' | tsort 2>&1 >/dev/null; }
 module_loops=$(loops_of 's/\.(h|cpp)\b//g')
 folder_loops=$(loops_of 's,/[^ ]+,,g')
-disk=$(grep -rnE 'fs::(exists|is_|status|symlink_status|equivalent|canonical|directory_iterator|read_symlink|remove|rename|create_)|std::filesystem::(exists|is_|status|directory_iterator|remove|rename|create_)|SystemFiles\(\)|fstream|fopen' \
+disk=$(grep -rnP '\b(fs|filesystem)::(?!path\b)\w|std::(remove|rename)\(|[^\w:]::(open|unlink|rename|stat|read|write)\(|SystemFiles\(\)|fstream|fopen|QFile\b' \
     --include='*.h' --include='*.cpp' . | grep -vE '^\./(files/SystemFiles|files/FileLayer.h|ui/MainWindow.cpp)')
 qt=$(grep -rlE '^#include <Q' --include='*.h' --include='*.cpp' . | grep -vE '^\./(ui|program)/')
 platform=$(grep -rlE '_WIN32' --include='*.h' --include='*.cpp' .)
