@@ -1,5 +1,4 @@
-// The main window's state: the two editors, the shop, the print and the mode, and the sequence that
-// starts the program.
+// The main window's state: the two editors, the shop, the print and the mode.
 #pragma once
 
 #include "base/Platform.h"
@@ -24,13 +23,6 @@ struct frmEmporiumMain {
     PrintHost print;
     frmEmporiumGenerator generator;
 };
-
-/// Starts the program: what a killed run left is finished, the category files are brought up to
-/// date and the category list is read. What could not be read or written is told in one box. If
-/// another copy of the program uses the same data, a box asks whether to go on; false if not. A
-/// data folder that is missing or can't be written is told, too, and stays as it is; so is a folder
-/// for pages that can't be written.
-bool StartUp(frmEmporiumMain& window, const Platform& platform);
 
 void ShowItemEditor(frmEmporiumMain& window);
 void ShowShopEditor(frmEmporiumMain& window);

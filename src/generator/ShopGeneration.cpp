@@ -8,7 +8,7 @@
 #include "shopeditor/ShopFields.h"
 #include "shopeditor/ShopList.h"
 #include "shopeditor/ShopPricing.h"
-#include "store/CategoryFiles.h"
+#include "store/CategoryFaults.h"
 #include "store/RecordReader.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "itemeditor/ItemToDisk.h"
 
 #include "itemeditor/CategoryChoice.h"
+#include "store/CategoryFaults.h"
 #include "store/CategoryList.h"
 #include "store/RecordText.h"
 #include "store/WriteTurn.h"

@@ -1,5 +1,6 @@
 #include "itemeditor/ItemView.h"
 
+#include "store/CategoryFaults.h"
 #include "store/RecordReader.h"
 #include "store/RecordText.h"
 

@@ -1,7 +1,7 @@
 #include "store/ArsenalImport.h"
 
 #include "files/FileWriting.h"
-#include "store/CategoryFiles.h"
+#include "store/CategoryFaults.h"
 #include "store/RecordText.h"
 #include "text/Ansi.h"
 #include "text/LineReader.h"

@@ -1,5 +1,4 @@
-// The file of a category: its records, what reading them came to, and what the user is told of it.
-// Writing is FileWriting's.
+// The file of a category: its records, and what reading them came to. Writing is FileWriting's.
 #pragma once
 
 #include "base/Disk.h"
@@ -11,14 +10,6 @@
 #include <vector>
 
 namespace emporium {
-
-/// What the user is told of a record that a category has no room for.
-inline constexpr std::string_view CategoryIsFull =
-    "Die Kategorie ist voll: Sie fasst höchstens 32767 Gegenstände."_ansi;
-
-/// What the user is told of lines that are left over behind the last whole record.
-inline constexpr std::string_view RecordIsCutOff =
-    "Der letzte Datensatz ist nicht vollständig."_ansi;
 
 struct CategoryFile {
     FileText::State state = FileText::State::Absent;
@@ -35,9 +26,5 @@ struct CategoryFile {
 /// A category's records. A name that is no plain one, or that of a file of another kind, is
 /// unreadable.
 CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name);
-
-/// What the user should know of the file, one line for each fault: missing, unreadable, cut
-/// off, records whose name or price line lacks its mark. Empty if all is well.
-std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file);
 
 } // namespace emporium

@@ -1,5 +1,6 @@
 #include "ui/MainWindow.h"
 
+#include "frame/StartUp.h"
 #include "ui/Build.h"
 #include "ui/Pictures.h"
 #include "ui/Printing.h"

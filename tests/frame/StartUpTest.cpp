@@ -1,4 +1,4 @@
-#include "frame/frmEmporiumMain.h"
+#include "frame/StartUp.h"
 #include "itemeditor/CategoryChoice.h"
 #include "support/MemoryDisk.h"
 #include "support/ScriptedPlatform.h"

@@ -1,5 +1,6 @@
 #include "store/CategoryFiles.h"
 
+#include "store/CategoryFaults.h"
 #include "store/CategoryList.h"
 #include "store/CategoryRefusal.h"
 #include "support/ProgramFolder.h"
