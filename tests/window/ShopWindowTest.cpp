@@ -115,7 +115,6 @@ TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
         dialog.close();
     });
     Click("cmdShopGenerator");
-    QTest::qWait(50);
     Expect([this](QWidget& dialog) {
         EXPECT_EQ(Wares(), 0);
         EXPECT_EQ(dialog.focusWidget(), Find(&dialog, "cmbShopBeruf"));
