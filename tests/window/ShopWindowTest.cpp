@@ -95,8 +95,7 @@ TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
     EXPECT_EQ(Wares(), 3);
     list->resize(list->width(), list->header()->height() + 30); // one row
     list->verticalScrollBar()->setValue(1);
-    const QPoint header(10, list->header()->height() / 2);
-    QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {}, header);
+    QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {}, {10, 5});
     EXPECT_EQ(Cell("lvLaden", 0, 0), "Zange (x3)") << "turned round";
     EXPECT_EQ(list->verticalScrollBar()->value(), 1);
     Answer("Wollt ihr den gewählten Gegenstand wirklich löschen ?", "Ja");
