@@ -92,8 +92,13 @@ TEST_F(WindowTest, RegionsArePickedByHandOnlyAndMove) {
 
 TEST_F(WindowTest, ANewItemGoesIntoANewCategoryOnceItHasAUnit) {
     Open();
+    std::filesystem::remove(program.folders.EmporiumFolder() / "ItemKategorien.dat");
+    Answer("Die Liste der Kategorien fehlt.", "Ja");
+    int listed = 0;
+    look = [&](QWidget&) { listed = Find<QComboBox>("cmbKategorien")->count(); };
     Enter("Bitte gebt der Kategorie einen Namen.", "Kräuter");
     Click("cmdKategorieNeu");
+    EXPECT_EQ(listed, 6) << "with the fixed ones, when the name was asked for";
     Pick("cmbKategorien", "Öle");
     Find<QTabWidget>("ItemTab")->setCurrentIndex(1);
     Click("cmdItemNeu");

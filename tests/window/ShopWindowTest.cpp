@@ -203,9 +203,12 @@ TEST_F(PrintTest, APrintCanFailAndCanBeEndedByABoxAndByClosingTheWindow) {
     PrintTo(Output("kein/ordner/shop.pdf"));
     Answer("Die PDF-Datei konnte nicht geschrieben werden.");
     Click("cmdShopDrucken");
-    PrintTo(""); // to a printer that isn't there
+    PrintTo("", [this](QPrinter&) { // to a printer that isn't there
+        look = [this](QWidget&) { EXPECT_TRUE(Find("cmdHelp")->isEnabled()) << "still printing"; };
+    });
     Answer("Es wurde nichts oder nicht alles gedruckt.");
     Click("cmdShopDrucken");
+    QTimer::singleShot(0, &*window, [this] { EXPECT_FALSE(Find("cmdHelp")->isEnabled()); });
     QTimer::singleShot(0, &*window, [this] { window->close(); });
     Click("cmdListeDrucken");
     EXPECT_FALSE(window->isVisible());
