@@ -133,15 +133,14 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
     ui::GuardInput(box);
     // Between the marks is what is selected before; behind it is where the caret stands then.
     const QString table[][5] = {
-        {"line ends and tabs", "txtItem0", "Z||e", "Ei\r\nn\tBeil\n", "ZEinBeil|e"},
-        {"U+2028 and NUL", "txtItem3", "||", QString("a\u2028b") + QChar(0) + "c", "abc|"},
+        {"line ends and NUL", "txtItem0", "Z||e", QString("\r\nE\ti\u2028n\n") + QChar(0),
+         "ZEin|e"},
         {"a decomposed umlaut", "txtItem0", "||", "Mu\u0308hle", "Mühle|"},
         {"beyond the code page", "txtItem0", "|ab|c", "Ж5€", "5€|c"},
-        {"a number with a unit", "txtItem1", "||", "-1.5,0 kg", "|"},
         {"a sign behind a digit", "txtItem2", "7||", "-3", "7|"},
         {"a second comma", "txtItem2", "1||2,5", ",", "1|2,5"},
         {"blanks around a number", "txtItem2", "3|4|,5", " 12\n", "312|,5"},
-        {"nothing that may enter", "txtItem2", "1|7|", "abc", "1|7"},
+        {"a number with a unit", "txtItem1", "1|7|", "5 kg", "1|7"},
         {"beyond the code page, in a box", "", "Kr||uter", "Жä\n", "Krä|uter"},
     };
     for (const auto& [what, name, before, entered, after] : table) {
