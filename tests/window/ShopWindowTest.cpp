@@ -95,8 +95,7 @@ TEST_F(ShopWindowTest, MenusDoWhatTheyTellAndRecoverAsOftenAsSomethingWent) {
     EXPECT_EQ(Wares(), 3);
     list->resize(list->width(), list->header()->height() + 30); // one row
     list->verticalScrollBar()->setValue(1);
-    const QPoint header(10, list->header()->height() / 2);
-    QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {}, header);
+    QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {}, {10, 5});
     EXPECT_EQ(Cell("lvLaden", 0, 0), "Zange (x3)") << "turned round";
     EXPECT_EQ(list->verticalScrollBar()->value(), 1);
     Answer("Wollt ihr den gewählten Gegenstand wirklich löschen ?", "Ja");
@@ -115,7 +114,6 @@ TEST_F(ShopWindowTest, TheGeneratorFillsTheShopAndHandsItsChoicesOver) {
         dialog.close();
     });
     Click("cmdShopGenerator");
-    QTest::qWait(50);
     Expect([this](QWidget& dialog) {
         EXPECT_EQ(Wares(), 0);
         EXPECT_EQ(dialog.focusWidget(), Find(&dialog, "cmbShopBeruf"));
@@ -205,9 +203,12 @@ TEST_F(PrintTest, APrintCanFailAndCanBeEndedByABoxAndByClosingTheWindow) {
     PrintTo(Output("kein/ordner/shop.pdf"));
     Answer("Die PDF-Datei konnte nicht geschrieben werden.");
     Click("cmdShopDrucken");
-    PrintTo(""); // to a printer that isn't there
+    PrintTo("", [this](QPrinter&) { // to a printer that isn't there
+        look = [this](QWidget&) { EXPECT_TRUE(Find("cmdHelp")->isEnabled()) << "still printing"; };
+    });
     Answer("Es wurde nichts oder nicht alles gedruckt.");
     Click("cmdShopDrucken");
+    QTimer::singleShot(0, &*window, [this] { EXPECT_FALSE(Find("cmdHelp")->isEnabled()); });
     QTimer::singleShot(0, &*window, [this] { window->close(); });
     Click("cmdListeDrucken");
     EXPECT_FALSE(window->isVisible());

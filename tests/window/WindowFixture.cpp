@@ -15,11 +15,6 @@
 
 namespace emporium::test {
 
-static void TypeInto(QWidget* field, const QString& text) {
-    for (const QChar c : text)
-        QTest::sendKeyEvent(QTest::Press, field, Qt::Key_unknown, c, {});
-}
-
 WindowTest::WindowTest() {
     program.Write("Emporium/ItemKategorien.dat", Lines({" 2 ", "Werkzeug", "Öle"_ansi}));
     program.Write("Emporium/Werkzeug.dat",
@@ -67,12 +62,12 @@ void WindowTest::Pick(const QWidget* parent, const QString& name, const QString&
     QTest::keyClick(view, Qt::Key_Return);
 }
 
-void WindowTest::Type(const QString& name, const QString& text) const {
-    auto* field = Find<QLineEdit>(name);
+void WindowTest::Type(QWidget* field, const QString& text) {
     Click(field);
     QTest::keySequence(field, QKeySequence::SelectAll);
     QTest::keyClick(field, Qt::Key_Delete);
-    TypeInto(field, text);
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Press, field, Qt::Key_unknown, c, {});
 }
 
 void WindowTest::ClickRow(const QString& name, int row) const {
@@ -115,7 +110,7 @@ void WindowTest::Answer(const QString& beginning, const QString& button) {
 void WindowTest::Enter(const QString& prompt, const QString& text) {
     Expect([prompt, text](QWidget& dialog) {
         EXPECT_EQ(dynamic_cast<QInputDialog&>(dialog).labelText(), prompt);
-        TypeInto(dialog.findChild<QLineEdit*>(), text);
+        Type(dialog.findChild<QLineEdit*>(), text);
         Press(dialog, "OK");
     });
 }
@@ -141,15 +136,12 @@ void WindowTest::PrintTo(const QString& file, std::function<void(QPrinter&)> cho
 
 void WindowTest::Press(const QWidget& dialog, const QString& text) {
     for (auto* button : dialog.findChildren<QAbstractButton*>())
-        if (button->text().remove('&') == text && button->isVisible()) {
-            Click(button);
-            return;
-        }
+        if (button->text().remove('&') == text && button->isVisible())
+            return Click(button);
     qFatal("no button %s", qUtf8Printable(text));
 }
 
 void WindowTest::AnswerDialog() {
-    handled_.removeIf([](const auto& shown) { return !shown || !shown->isVisible(); });
     QWidget* dialog = QApplication::activeModalWidget();
     // A print on a busy machine takes long enough for its box, which goes by itself.
     if (!dialog || !dialog->isVisible() || handled_.contains(dialog) ||
@@ -157,7 +149,6 @@ void WindowTest::AnswerDialog() {
         return;
     handled_ += dialog;
     EXPECT_FALSE(dialog->windowTitle().isEmpty()) << "whose box?";
-    const QPointer<QWidget> shown(dialog);
     look(*dialog);
     if (handlers_.empty()) {
         const auto* box = qobject_cast<QMessageBox*>(dialog);
@@ -167,8 +158,8 @@ void WindowTest::AnswerDialog() {
         handlers_.pop_front();
         handler(*dialog);
     }
-    if (shown && shown->isVisible())
-        shown->close();
+    EXPECT_FALSE(dialog->isVisible() && dialog->close()) << "no answer closes it";
+    handled_.removeLast();
 }
 
 } // namespace emporium::test

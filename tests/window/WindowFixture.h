@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPrinter>
 #include <QTimer>
 
@@ -56,7 +55,8 @@ protected:
     void Pick(const QString& name, const QString& entry) const { Pick(&*window, name, entry); }
 
     /// Clicks into a text field, selects what it holds and types the text over it.
-    void Type(const QString& name, const QString& text) const;
+    static void Type(QWidget* field, const QString& text);
+    void Type(const QString& name, const QString& text) const { Type(Find(name), text); }
 
     /// Clicks a row of a list view, from 0 as it stands on the screen.
     void ClickRow(const QString& name, int row) const;
@@ -87,7 +87,7 @@ private:
     void AnswerDialog();
 
     std::deque<std::function<void(QWidget&)>> handlers_;
-    QList<QPointer<QWidget>> handled_; // the dialogs that are open and in a handler's hands
+    QList<QWidget*> handled_; // the dialogs that are in a handler's hands
     QTimer timer_;
 };
 
