@@ -117,9 +117,11 @@ Recovery Carry(const FileLayer& files, const fs::path& folder,
 Recovery FinishJournal(const FileLayer& files, const fs::path& folder) {
     const fs::path journalFile = folder / JournalName;
     const FileStatus status = files.status(journalFile);
-    if (status.kind == FileStatus::Kind::Absent && !status.reason)
+    if (status.reason)
+        return {FileFailure{journalFile, status.reason}, {}};
+    if (status.kind == FileStatus::Kind::Absent)
         return {};
-    if (status.kind != FileStatus::Kind::File && !status.reason)
+    if (status.kind != FileStatus::Kind::File)
         return SetAside(files, journalFile, "Der angefangene Schreibvorgang ist keine Datei."_ansi);
     const FileText text = files.read(journalFile, LargestList);
     if (text.reason && text.reason != std::errc::file_too_large)
