@@ -57,8 +57,8 @@ Outcome WriteChanges(const Disk& disk, const std::vector<FileChange>& changes,
 }
 
 std::string FinishBeforeReading(const Disk& disk) {
-    const auto journal = disk.folders.EmporiumFolder() / JournalName;
-    if (disk.files.status(journal).kind == FileStatus::Kind::Absent)
+    const FileStatus journal = disk.files.status(disk.folders.EmporiumFolder() / JournalName);
+    if (journal.kind == FileStatus::Kind::Absent && !journal.reason)
         return {};
     Outcome outcome = InTurn(disk, [] { return Outcome{true, {}}; });
     return outcome.stands ? std::move(outcome.text)
