@@ -140,24 +140,19 @@ TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
 }
 
 TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
-    constexpr auto notWritten = "Die Druckseite konnte nicht geschrieben werden.\n\nDatei: ";
     constexpr auto notLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
     const struct {
         std::string calls, box;
-        int failing = 0;    // call of the disk
         int readyAfter = 3; // rounds of events
         bool readable = true, staysOpen = true, printed = true;
     } cases[] = {{"load print ", ""},
-                 {"load ", notLoaded, 0, 0},
-                 {"load ", notLoaded, 0, 3, false},
-                 {"load ", "", 0, 3, true, false},
-                 {"load print ", "Es wurde nichts", 0, 3, true, true, false},
-                 {"", notWritten, 1},
-                 {"", notWritten, 5}};
+                 {"load ", notLoaded, 0},
+                 {"load ", notLoaded, 3, false},
+                 {"load ", "", 3, true, false},
+                 {"load print ", "Es wurde nichts", 3, true, true, false}};
     for (const auto& c : cases) {
         MemoryDisk disk;
         disk.names.erase(disk.folders.TempFolder.generic_u8string()); // made when it is needed
-        disk.failing = {c.failing};
         ScriptedPlatform script{disk.folders};
         script.platform.disk.files = disk.Files();
         auto& [setVisible, navigate, print] = script.platform.Browser;
@@ -167,7 +162,7 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
         setVisible = [&](bool visible) { calls += visible ? "show " : "hide "; };
         navigate = [&](const std::filesystem::path& file) {
             EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
-            EXPECT_EQ(disk.Files().read(file, LargestFile).bytes, "Seite");
+            EXPECT_EQ(disk.Find(file)->bytes, "Seite");
             calls += "load ";
             return c.readable;
         };
@@ -184,8 +179,37 @@ TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
         PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
         EXPECT_EQ(calls, "show " + c.calls + "hide ");
         EXPECT_FALSE(host.busy || host.PreviewReady);
-        EXPECT_EQ(disk.Files().entries(disk.folders.TempFolder).empty(), c.failing > 0);
     }
+}
+
+TEST(PrintHost, WhicheverCallBreaksTheWholePageIsPrintedOrABoxTellsWhyNot) {
+    Sweep([](Trouble trouble, int n) {
+        MemoryDisk disk;
+        const auto temporary = disk.folders.TempFolder / "Temp.html";
+        disk.Put(temporary, "Alt");
+        ScriptedPlatform script{disk.folders};
+        script.platform.disk.files = disk.Files();
+        PrintHost host;
+        int printed = 0, told = 0;
+        script.platform.Browser = {[](bool) {},
+                                   [&](const auto& file) {
+                                       EXPECT_EQ(disk.Find(file)->bytes, "Seite");
+                                       return ReportPage(host), true;
+                                   },
+                                   [&printed] { return ++printed > 0; }};
+        script.platform.SetWaitPointer = [](bool) {};
+        script.platform.ShowMessage = [&told](std::string_view text) {
+            told += text.starts_with("Die Druckseite konnte nicht geschrieben werden.") ? 1 : 9;
+        };
+        const bool reached = disk.Suffer(trouble, n, 0, [&] {
+            PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
+        });
+        EXPECT_EQ(printed + told, reached && trouble >= Trouble::Killed ? 0 : 1);
+        disk.Restart(trouble);
+        const std::string& page = disk.Find(temporary)->bytes;
+        EXPECT_TRUE(page == "Seite" || (printed == 0 && page == "Alt")) << page;
+        return reached;
+    });
 }
 
 } // namespace

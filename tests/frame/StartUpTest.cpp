@@ -36,9 +36,10 @@ struct Installation {
         return StartUp(window, script.platform);
     }
 
-    bool IsUpToDate() {
-        return disk.Read(PresentFile) == Older + Imported &&
-               disk.Files().entries(disk.folders.EmporiumFolder()).size() == 2;
+    bool HasBothWeapons() const { return disk.Read(PresentFile) == Older + Imported; }
+
+    bool IsUpToDate() const {
+        return HasBothWeapons() && disk.Entries(disk.folders.EmporiumFolder()).size() == 2;
     }
 
     MemoryDisk disk;
@@ -55,37 +56,28 @@ TEST(Start, BringsOlderFilesToTheirNamesBeforeItImports) {
         EXPECT_TRUE(here.Start());
         here.disk.Remove("Emporium/Schreibvorgang.orvan-journal-beiseite");
         EXPECT_TRUE(here.IsUpToDate());
-        EXPECT_TRUE(here.disk.Files().entries(here.disk.folders.TempFolder).empty());
+        EXPECT_TRUE(here.disk.Entries(here.disk.folders.TempFolder).empty());
     }
 }
 
 TEST(Start, MayBreakOffInAnyCallAndIsFinishedByTheNext) {
-    const auto tries = [](int n, int trouble) {
-        SCOPED_TRACE(std::to_string(n) + ", trouble " + std::to_string(trouble));
+    Sweep([](Trouble trouble, int n) {
         Installation here;
         bool told = false;
-        here.script.platform.ShowMessage = [&told](std::string_view) { told = true; };
-        if (trouble == 0)
-            here.disk.failing = {n};
-        else
-            here.disk.lastCall = n;
-        try {
-            here.Start();
-        } catch (const KilledHere&) {
-        }
-        const bool reached = here.disk.calls >= n;
+        here.script.platform.ShowMessage = [&told](std::string_view text) {
+            told = true;
+            EXPECT_EQ(text.find("fehlt der Ordner Data"), text.npos) << "it is there";
+        };
+        const bool reached = here.disk.Suffer(trouble, n, 0, [&here] { here.Start(); });
         const auto& items = here.window.items;
         const bool listed = items.cmbKategorien.Entries().size() > 1;
-        EXPECT_TRUE(trouble > 0 || items.cmdKategorieNeu.enabled == listed);
-        EXPECT_TRUE(told || trouble > 0 || here.IsUpToDate());
-        here.disk.CutPower((trouble & 2) != 0, (trouble & 4) != 0);
+        EXPECT_TRUE(trouble >= Trouble::Killed || items.cmdKategorieNeu.enabled == listed);
+        EXPECT_TRUE(told || trouble >= Trouble::Killed || here.HasBothWeapons());
+        here.disk.Restart(trouble);
         here.Start();
         EXPECT_TRUE(here.IsUpToDate());
         return reached;
-    };
-    for (const int trouble : {0, 1, 3, 5, 7})
-        for (int n = 1; tries(n, trouble);)
-            ++n;
+    });
 }
 
 TEST(Start, ASecondCopyIsToldAndLeavesTheOthersWorkAlone) {

@@ -6,10 +6,10 @@
 namespace emporium::test {
 namespace {
 
-// Runs the act in worlds of their own, each time with another call of the disk failing, also
-// together with a second one, or being the last. A failure is told, and files, records and
-// controls stand as before, or as without it; after a restart the disk holds what the window
-// shows, and nothing is lost or doubled if the program was killed.
+// Runs the act in worlds of their own, each with a trouble in another call of the disk. Nothing is
+// changed but under the lock. A failure is told with its reason, and files, records and controls
+// stand as before, or as without it; after a restart the disk holds what the window shows, and
+// nothing is lost or doubled if the program was killed.
 void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
                         const std::function<void(EditorAtWork&)>& act) {
     EditorAtWork whole;
@@ -19,41 +19,34 @@ void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
     act(whole);
     const auto filesAfter = whole.Files();
     const auto stateAfter = whole.State();
-    const auto fails = [&](int n, int second, int killed) {
-        SCOPED_TRACE("calls " + std::to_string(n) + " and " + std::to_string(second) + ", killed " +
-                     std::to_string(killed));
+    const auto tries = [&](Trouble trouble, int n, int second) {
+        SCOPED_TRACE(second);
         EditorAtWork world;
         prepare(world);
         std::string told;
-        world.script.platform.ShowMessage = [&told](std::string_view text) { told = text; };
+        world.script.platform.ShowMessage = [&told](std::string_view text) { told += text; };
         auto& disk = world.program;
-        disk.calls = 0;
-        if (killed > 0)
-            disk.lastCall = n;
-        else
-            disk.failing = {n, second};
-        try {
-            act(world);
-        } catch (const KilledHere&) {
-        }
+        const bool reached = disk.Suffer(trouble, n, second, [&] { act(world); });
         world.script.Forget();
-        const bool reached = disk.calls >= n;
-        disk.CutPower((killed & 2) != 0, (killed & 4) != 0); // each of them, both or none
+        disk.Restart(trouble);
         EXPECT_TRUE(InTurn(world.script.platform.disk, [] { return Outcome{true, {}}; }).stands);
-        EXPECT_TRUE(world.Files() == filesBefore || world.Files() == filesAfter);
-        if (killed == 0) {
-            const bool stands = world.Files() == filesAfter;
-            EXPECT_TRUE(stands ? told.find("konnte nicht") == told.npos : !told.empty()) << told;
+        EXPECT_FALSE(disk.unguarded);
+        const bool stands = world.Files() == filesAfter;
+        EXPECT_TRUE(stands || world.Files() == filesBefore);
+        if (trouble < Trouble::Killed) {
+            EXPECT_TRUE(stands ? told.find("konnte nicht") == told.npos
+                               : told.find("kein Platz") != told.npos)
+                << told;
             EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
         }
         return reached;
     };
-    for (int n = 1; fails(n, 0, 0); ++n)
-        for (int second = n + 1; second < n + 12; ++second)
-            fails(n, second, 0);
-    for (const int killed : {1, 3, 5, 7})
-        for (int n = 1; fails(n, 0, killed);)
-            ++n;
+    Sweep([&](Trouble trouble, int n) {
+        const bool reached = tries(trouble, n, 0);
+        for (int second = n + 1; trouble == Trouble::Fails && reached && second < n + 12; ++second)
+            tries(trouble, n, second);
+        return reached;
+    });
 }
 
 // A way of saving the Hat: from a view, in place of the coat or as a new item, with a category in

@@ -92,12 +92,16 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
     EXPECT_EQ(world.Shown(), "");
     const auto journal = world.program.folders.EmporiumFolder() / JournalName;
     world.program.Put(journal, "");
-    world.script.ExpectMessage("Ein früherer Schreibvorgang"_ansi);
-    world.View("Abakus");
+    for (const auto failing : {"", "status Schreibvorgang.orvan-journal"}) {
+        world.program.failingCall = failing;
+        world.script.ExpectMessage("Ein früherer Schreibvorgang"_ansi);
+        world.View("Abakus");
+    }
     world.program.locked = false;
     world.Fill(Hat);
-    world.program.failing = {world.program.calls + 2}; // the reading of the journal
+    world.program.failingCall = "read Schreibvorgang.orvan-journal";
     ExpectRefusal(world, "Ein früherer Schreibvorgang konnte nicht beendet werden."_ansi);
+    world.program.failingCall.clear();
     world.script.ExpectMessage("Schreibvorgang.orvan-journal: ");
     world.View("Abakus");
 

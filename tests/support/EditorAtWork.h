@@ -141,9 +141,9 @@ public:
     }
 
     /// All data files by name.
-    std::map<std::string, std::string> Files() {
+    std::map<std::string, std::string> Files() const {
         std::map<std::string, std::string> files;
-        for (const auto& file : program.Files().entries(program.folders.EmporiumFolder()))
+        for (const auto& file : program.Entries(program.folders.EmporiumFolder()))
             if (file.extension() == ".dat")
                 files[FromPath(file.filename())] =
                     program.Read("Emporium/" + FromPath(file.filename()));

@@ -1,5 +1,5 @@
 // A disk in memory. Any of its calls can fail or be the last one, and a power cut takes what was
-// not flushed: contents, names or both, or of the names all but removals.
+// not flushed: contents, names but removals, or both.
 #pragma once
 
 #include "base/Variablen.h"
@@ -7,7 +7,10 @@
 #include "support/Lines.h"
 #include "text/Ansi.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -17,6 +20,9 @@ namespace emporium::test {
 
 /// Thrown where the program would end.
 struct KilledHere {};
+
+/// What can befall an operation in a call of the disk; the losses are those of a power cut.
+enum class Trouble { Fails, FailsFromThenOn, Killed, ContentsLost, NamesLost, BothLost };
 
 class MemoryDisk {
 public:
@@ -38,11 +44,10 @@ public:
     }
 
     Folders folders = InitFolders("/programm");
-    std::set<int> failing;     // numbers of calls that fail, from 1
-    int failingFrom = 1 << 30; // so do all from this one on
-    int lastCall = 1 << 30;    // the program ends in this one
+    std::string failingCall; // by name and file, e.g. "read Kleidung.dat"
+    std::set<int> failing;   // calls by number, from 1
     int calls = 0;
-    bool removesAtOnce = false; // reach the disk before what was done earlier
+    bool unguarded = false; // the categories' folder was changed while nobody held the lock
     std::vector<Node> nodes;
     Names names, flushedNames; // by path
 
@@ -64,19 +69,44 @@ public:
         names.erase((folders.DataFolder / ToPath(name)).generic_u8string());
     }
 
-    /// What a new start finds, with nothing failing.
-    void Restart() {
-        failing.clear();
-        failingFrom = lastCall = 1 << 30;
-        locked = false;
+    /// Does the work with trouble in its n-th call, and a second call failing; true if it came to
+    /// the n-th.
+    bool Suffer(Trouble trouble, int n, int second, const std::function<void()>& work) {
+        calls = 0;
+        removesAtOnce = trouble == Trouble::BothLost;
+        failing = {second, trouble == Trouble::Fails ? n : second};
+        failingFrom = trouble == Trouble::FailsFromThenOn ? n : never;
+        lastCall = trouble >= Trouble::Killed ? n : never;
+        try {
+            work();
+        } catch (const KilledHere&) {
+        }
+        return calls >= n;
     }
-    void CutPower(bool takesContents, bool takesNames) {
-        if (takesContents)
+
+    /// What a new start finds after such trouble, with nothing failing.
+    void Restart(Trouble trouble) {
+        if (trouble == Trouble::ContentsLost || trouble == Trouble::BothLost)
             for (Node& node : nodes)
                 node.bytes = node.flushed;
-        if (takesNames)
+        if (trouble >= Trouble::NamesLost)
             names = flushedNames;
-        Restart();
+        failing.clear();
+        failingFrom = lastCall = never;
+        locked = false;
+    }
+
+    const Node* Find(const Path& path) const {
+        const auto found = names.find(path.generic_u8string());
+        return found == names.end() ? nullptr : &nodes[found->second];
+    }
+
+    std::vector<Path> Entries(const Path& folder) const {
+        std::vector<Path> entries;
+        for (const auto& [name, node] : names)
+            if (Path(name).parent_path() == folder)
+                entries.emplace_back(name);
+        return entries;
     }
 
     FileLayer Files() {
@@ -85,77 +115,77 @@ public:
         files.read = [this](const Path& file, std::size_t) { return ReadFile(file); };
         files.status = [this](const Path& path) { return StatusOf(path); };
         files.linkTarget = [this](const Path& path) {
-            const Node* node = Find(path);
+            const Node* node = Count("linkTarget", path) ? nullptr : Find(path);
             return node && node->kind == Kind::Link ? Path(node->bytes) : Path();
         };
         files.entries = [this](const Path& folder) {
-            std::vector<Path> entries;
-            for (const auto& [name, node] : names)
-                if (Path(name).parent_path() == folder)
-                    entries.emplace_back(name);
-            return entries;
+            return Count("entries", folder) ? std::vector<Path>() : Entries(folder);
         };
         files.sameFile = [this](const Path& a, const Path& b) {
-            return Find(a) && Find(a) == Find(b);
+            return !Count("sameFile", a) && Find(a) && Find(a) == Find(b);
         };
         files.createNew = [this](const Path& file, Handle& handle) {
-            if (const auto error = Count())
+            const Node* folder = Find(file.parent_path());
+            if (const auto error = CountChange("createNew", file))
                 return error;
-            if (Find(file))
-                return std::make_error_code(std::errc::file_exists);
-            if (!Find(file.parent_path()))
-                return std::make_error_code(std::errc::no_such_file_or_directory);
-            if (!Find(file.parent_path())->writable)
-                return std::make_error_code(std::errc::permission_denied);
+            if (Find(file) || !folder || !folder->writable)
+                return std::make_error_code(Find(file) ? std::errc::file_exists
+                                            : folder   ? std::errc::permission_denied
+                                                       : std::errc::no_such_file_or_directory);
             handle = static_cast<Handle>(names[file.generic_u8string()] = nodes.size());
             nodes.emplace_back();
             return std::error_code();
         };
         files.overwrite = [this](const Path& file, Handle& handle) {
             handle = static_cast<Handle>(names.at(file.generic_u8string()));
-            nodes[static_cast<std::size_t>(handle)].bytes.clear();
-            return Count();
+            At(handle).bytes.clear();
+            return CountChange("overwrite", file);
         };
         files.write = [this](Handle handle, std::string_view bytes, std::size_t& written) {
-            const auto error = Count();
+            const auto error = Count("write");
             written = std::min(bytes.size() / (error ? 2 : 1), std::size_t{4000}); // a part
-            nodes[static_cast<std::size_t>(handle)].bytes.append(bytes.substr(0, written));
+            At(handle).bytes.append(bytes.substr(0, written));
             return error;
         };
         files.flush = [this](Handle handle) {
-            const auto error = Count();
-            Node& node = nodes[static_cast<std::size_t>(handle)];
+            const auto error = Count("flush");
             if (!error)
-                node.flushed = node.bytes;
+                At(handle).flushed = At(handle).bytes;
             return error;
         };
-        files.close = [this](Handle) { return Count(); };
-        files.copyMode = [this](const Path&, const Path&) { return Count(); };
+        files.close = [this](Handle) { return Count("close"); };
+        files.copyMode = [this](const Path&, const Path& to) { return Count("copyMode", to); };
         files.rename = [this](const Path& from, const Path& to) {
-            const auto error = Count();
-            if (!error)
-                names[to.generic_u8string()] = names.extract(from.generic_u8string()).mapped();
-            return error;
+            if (const auto error = CountChange("rename", to); error || !Find(from))
+                return error ? error : std::make_error_code(std::errc::no_such_file_or_directory);
+            names[to.generic_u8string()] = names.extract(from.generic_u8string()).mapped();
+            return std::error_code();
         };
         files.remove = [this](const Path& file) {
-            const auto error = Count();
+            const auto error = CountChange("remove", file);
             if (!error && names.erase(file.generic_u8string()) > 0 && removesAtOnce)
                 flushedNames.erase(file.generic_u8string());
             return error;
         };
         files.flushFolder = [this](const Path& folder) { return FlushFolder(folder); };
         files.createFolder = [this](const Path& folder) {
-            if (!Find(folder))
+            const auto error = Count("createFolder", folder);
+            if (!error && !Find(folder))
                 Put(folder, "", Kind::Folder);
-            return std::error_code();
+            return error;
         };
-        files.claim = [](const Path&) { return FolderClaim(); };
-        files.lock = [this](const Path&, std::shared_ptr<void>& lock) {
+        files.claim = [this](const Path& folder) {
+            static_cast<void>(Count("claim", folder)); // that fails leaves no mark
+            return FolderClaim();
+        };
+        files.lock = [this](const Path& folder, std::shared_ptr<void>& lock) {
             if (locked)
                 return std::make_error_code(std::errc::device_or_resource_busy);
-            locked = true;
-            lock = std::shared_ptr<void>(nullptr, [this](void*) { locked = false; });
-            return Count();
+            const auto error = Count("lock", folder);
+            if (!error)
+                lock = std::shared_ptr<void>(nullptr, [this](void*) { locked = false; });
+            locked = !error;
+            return error;
         };
         return files;
     }
@@ -163,51 +193,68 @@ public:
     bool locked = false; // also by another copy
 
 private:
-    const Node* Find(const Path& path) const {
-        const auto found = names.find(path.generic_u8string());
-        return found == names.end() ? nullptr : &nodes[found->second];
-    }
+    static constexpr int never = 1 << 30;
+    int failingFrom = never, lastCall = never; // calls; the program ends in the last
+    bool removesAtOnce = false;                // reach the disk before what was done earlier
 
-    std::error_code Count() {
+    Node& At(FileLayer::Handle handle) { return nodes[static_cast<std::size_t>(handle)]; }
+
+    // What works on an open file knows no path.
+    std::error_code Count(std::string_view call, const Path& path = {}) {
         if (++calls == lastCall)
             throw KilledHere();
-        return failing.contains(calls) || calls >= failingFrom
-                   ? std::make_error_code(std::errc::no_space_on_device)
-                   : std::error_code();
+        const bool fails = failing.contains(calls) || calls >= failingFrom ||
+                           (failingCall.starts_with(call) &&
+                            failingCall.substr(call.size() + 1) == FromPath(path.filename()));
+        return fails ? std::make_error_code(std::errc::no_space_on_device) : std::error_code();
+    }
+
+    std::error_code CountChange(std::string_view call, const Path& file) {
+        unguarded |= !locked && file.parent_path() == folders.EmporiumFolder();
+        return Count(call, file);
     }
 
     FileText ReadFile(const Path& file) {
-        if (const auto error = Count())
-            return {FileText::State::Unreadable, {}, error};
+        auto error = Count("read", file);
         const Node* node = Find(file);
         if (node && node->kind == Kind::Link)
             node = Find(node->bytes);
-        if (!node)
-            return {};
-        if (node->kind != Kind::File)
-            return {FileText::State::Unreadable,
-                    {},
-                    std::make_error_code(std::errc::operation_not_supported)};
-        return {FileText::State::Whole, node->bytes, {}};
+        if (!error && node && node->kind != Kind::File)
+            error = std::make_error_code(std::errc::operation_not_supported);
+        if (error)
+            return {FileText::State::Unreadable, {}, error};
+        return node ? FileText{FileText::State::Whole, node->bytes, {}} : FileText();
     }
 
     FileStatus StatusOf(const Path& path) {
+        if (const auto error = Count("status", path))
+            return {Kind::Absent, false, false, error};
         const Node* node = Find(path);
         return node ? FileStatus{node->kind, node->writable, false, {}} : FileStatus();
     }
 
     std::error_code FlushFolder(const Path& folder) {
-        if (const auto error = Count())
+        if (const auto error = Count("flushFolder", folder))
             return error;
         const auto isIn = [&folder](const auto& entry) {
             return Path(entry.first).parent_path() == folder;
         };
         std::erase_if(flushedNames, isIn);
-        for (const auto& entry : names)
-            if (isIn(entry))
-                flushedNames.insert(entry);
+        std::copy_if(names.begin(), names.end(), std::inserter(flushedNames, flushedNames.end()),
+                     isIn);
         return {};
     }
 };
+
+/// Tries every trouble in every call, until `tries` says that there is no n-th one.
+inline void Sweep(const std::function<bool(Trouble trouble, int n)>& tries) {
+    for (const Trouble trouble : {Trouble::Fails, Trouble::FailsFromThenOn, Trouble::Killed,
+                                  Trouble::ContentsLost, Trouble::NamesLost, Trouble::BothLost})
+        for (int n = 1, reached = 1; reached == 1; ++n) {
+            SCOPED_TRACE("call " + std::to_string(n) + ", trouble " +
+                         std::to_string(static_cast<int>(trouble)));
+            reached = tries(trouble, n) ? 1 : 0;
+        }
+}
 
 } // namespace emporium::test
