@@ -139,75 +139,78 @@ TEST(ShopExport, IsWrittenAndShownOnlyIfTheUserWantsIt) {
     ExportShop(shop, script.platform);
 }
 
-TEST(PrintHost, APrintIsWrittenLoadedAwaitedAndPrintedOrToldInABox) {
-    constexpr auto notLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
-    const struct {
-        std::string calls, box;
-        int readyAfter = 3; // rounds of events
-        bool readable = true, staysOpen = true, printed = true;
-    } cases[] = {{"load print ", ""},
-                 {"load ", notLoaded, 0},
-                 {"load ", notLoaded, 3, false},
-                 {"load ", "", 3, true, false},
-                 {"load print ", "Es wurde nichts", 3, true, true, false}};
-    for (const auto& c : cases) {
-        MemoryDisk disk;
-        disk.names.erase(disk.folders.TempFolder.generic_u8string()); // made when it is needed
-        ScriptedPlatform script{disk.folders};
+struct Course {
+    std::string calls, box;
+    int readyAfter = 3; // rounds of events
+    bool readable = true, staysOpen = true, printed = true;
+};
+
+struct Printing : Course {
+    explicit Printing(const Course& course = {}) : Course(course) {
         script.platform.disk.files = disk.Files();
+        script.platform.PreviewTimeout = std::chrono::hours(readyAfter);
         auto& [setVisible, navigate, print] = script.platform.Browser;
-        PrintHost host;
-        std::string calls;
-        int rounds = 0;
-        setVisible = [&](bool visible) { calls += visible ? "show " : "hide "; };
-        navigate = [&](const std::filesystem::path& file) {
+        setVisible = [this](bool visible) { made += visible ? "show " : "hide "; };
+        navigate = [this](const std::filesystem::path& file) {
             EXPECT_FALSE(host.PreviewReady) << "a report of an earlier page";
             EXPECT_EQ(disk.Find(file)->bytes, "Seite");
-            calls += "load ";
-            return c.readable;
+            made += "load ";
+            return readable;
         };
-        print = [&] { return calls += "print ", c.printed; };
-        script.platform.PreviewTimeout = std::chrono::hours(c.readyAfter);
-        script.platform.ProcessEvents = [&] {
+        print = [this] { return made += "print ", printed; };
+        script.platform.ProcessEvents = [this] {
             PrintTempDocument(host, script.platform, [](std::string&) { FAIL() << "a second"; });
-            host.PreviewReady = ++rounds == c.readyAfter;
-            return c.staysOpen;
+            host.PreviewReady = ++rounds == readyAfter;
+            return staysOpen;
         };
-        if (!c.box.empty())
-            script.ExpectMessage(c.box);
         ReportPage(host);
+    }
+
+    void Print() {
         PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
-        EXPECT_EQ(calls, "show " + c.calls + "hide ");
-        EXPECT_FALSE(host.busy || host.PreviewReady);
+    }
+
+    MemoryDisk disk;
+    ScriptedPlatform script{disk.folders};
+    PrintHost host;
+    std::string made; // calls
+    int rounds = 0;
+};
+
+TEST(PrintHost, APrintIsLoadedAwaitedAndPrintedOrToldInABox) {
+    constexpr auto notLoaded = "Die Druckseite konnte nicht geladen werden.\n\nDatei: ";
+    for (const Course& course : {Course{"load print ", ""},
+                                 {"load ", notLoaded, 0},
+                                 {"load ", notLoaded, 3, false},
+                                 {"load ", "", 3, true, false},
+                                 {"load print ", "Es wurde nichts", 3, true, true, false}}) {
+        Printing here(course);
+        here.disk.names.erase(here.disk.folders.TempFolder.generic_u8string()); // made when needed
+        if (!here.box.empty())
+            here.script.ExpectMessage(here.box);
+        here.Print();
+        EXPECT_EQ(here.made, "show " + here.calls + "hide ");
+        EXPECT_FALSE(here.host.busy || here.host.PreviewReady);
     }
 }
 
 TEST(PrintHost, WhicheverCallBreaksTheWholePageIsPrintedOrABoxTellsWhyNot) {
     Sweep([](Trouble trouble, int n) {
-        MemoryDisk disk;
-        const auto temporary = disk.folders.TempFolder / "Temp.html";
-        disk.Put(temporary, "Alt");
-        ScriptedPlatform script{disk.folders};
-        script.platform.disk.files = disk.Files();
-        PrintHost host;
-        int printed = 0, told = 0;
-        script.platform.Browser = {[](bool) {},
-                                   [&](const auto& file) {
-                                       EXPECT_EQ(disk.Find(file)->bytes, "Seite");
-                                       return ReportPage(host), true;
-                                   },
-                                   [&printed] { return ++printed > 0; }};
-        script.platform.SetWaitPointer = [](bool) {};
-        script.platform.ShowMessage = [&told](std::string_view text) {
-            told += text.starts_with("Die Druckseite konnte nicht geschrieben werden.") ? 1 : 9;
+        Printing here;
+        const auto temporary = here.disk.folders.TempFolder / "Temp.html";
+        here.disk.Put(temporary, "Alt");
+        here.script.platform.SetWaitPointer = [](bool) {};
+        here.script.platform.ShowMessage = [&here](std::string_view text) {
+            EXPECT_TRUE(text.starts_with("Die Druckseite konnte nicht geschrieben werden."));
+            here.made += "told ";
         };
-        const bool reached = disk.Suffer(trouble, n, 0, [&] {
-            PrintTempDocument(host, script.platform, [](std::string& page) { page = "Seite"; });
-        });
-        EXPECT_EQ(printed + told, reached && trouble >= Trouble::Killed ? 0 : 1);
-        disk.Restart(trouble);
-        const std::string& page = disk.Find(temporary)->bytes;
-        EXPECT_TRUE(page == "Seite" || (printed == 0 && page == "Alt")) << page;
+        const bool reached = here.disk.Suffer(trouble, n, 0, [&here] { here.Print(); });
+        const bool printed = here.made == "show load print hide ";
+        const bool killed = reached && trouble >= Trouble::Killed;
+        EXPECT_TRUE(printed || here.made == (killed ? "show " : "show hide told ")) << here.made;
+        here.disk.Restart(trouble);
+        const std::string& page = here.disk.Find(temporary)->bytes;
+        EXPECT_TRUE(page == "Seite" || (!printed && page == "Alt")) << page;
         return reached;
     });
 }

@@ -29,20 +29,13 @@ struct Writing {
             disk.Write("Emporium/" + name, "alt " + name);
     }
 
-    State Look() {
-        State state;
-        for (const auto& file : disk.Entries(folder))
-            state[file.filename().string()] = disk.Read("Emporium/" + file.filename().string());
-        return state;
-    }
+    State Look() const { return disk.Contents(folder); }
 
     State With(const Changes& changes) {
         State state = Look();
         for (const auto& [name, contents] : changes)
-            if (contents)
+            if (state.erase(name); contents)
                 state[name] = *contents;
-            else
-                state.erase(name);
         return state;
     }
 
@@ -72,12 +65,11 @@ bool TryTrouble(const Changes& changes, Trouble trouble, int n, int second) {
     Writing here;
     const State before = here.Look(), wanted = here.With(changes);
     auto& disk = here.disk;
-    bool stands = false, dropped = false;
-    const bool reached = disk.Suffer(trouble, n, second, [&] {
-        stands = here.Write(changes).stands;
-        dropped = !stands;
-    });
-    EXPECT_TRUE(!dropped || second > 0 || trouble != Trouble::Fails || here.Look() == before);
+    std::optional<bool> stands;
+    const bool reached =
+        disk.Suffer(trouble, n, second, [&] { stands = here.Write(changes).stands; });
+    EXPECT_TRUE(stands != false || second > 0 || trouble != Trouble::Fails ||
+                here.Look() == before);
     if (trouble >= Trouble::Killed && second > n) {
         disk.Restart(Trouble::Killed);
         disk.failing = {second};
@@ -88,7 +80,7 @@ bool TryTrouble(const Changes& changes, Trouble trouble, int n, int second) {
     const State finished = here.Finish();
     EXPECT_TRUE(finished == wanted || finished == before) << testing::PrintToString(finished);
     EXPECT_TRUE(reached || second > 0 || finished == wanted);
-    EXPECT_TRUE(trouble >= Trouble::Killed || finished == (stands ? wanted : before));
+    EXPECT_TRUE(trouble >= Trouble::Killed || finished == (*stands ? wanted : before));
     EXPECT_EQ(here.Finish(), finished);
     return reached;
 }
@@ -176,6 +168,20 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
     });
 }
 
+TEST(Journal, OnlyAWholeJournalIsRead) {
+    const std::string text =
+        JournalText({{"Ö 1.dat", "Ö 1.dat.orvan-neu0", std::nullopt, FingerprintOf("")},
+                     {"b.dat", "", Fingerprint{1U << 31U, 7}, FingerprintOf("")}});
+    EXPECT_EQ(JournalText(ReadJournal(text).value()), text);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        EXPECT_FALSE(ReadJournal(text.substr(0, i))) << i;
+        std::string damaged = text;
+        damaged[i] = static_cast<char>(damaged[i] ^ 1);
+        EXPECT_FALSE(ReadJournal(damaged)) << i;
+    }
+    EXPECT_FALSE(ReadJournal(text + text));
+}
+
 JournalEntry Entry(const char* name, std::optional<std::string> before, std::string after) {
     return {name, std::string(name) + ".orvan-neu0",
             before ? std::optional(FingerprintOf(*before)) : std::nullopt, FingerprintOf(after)};
@@ -224,6 +230,20 @@ TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
         wanted[std::string(JournalName) + "-beiseite"] = journal;
         EXPECT_EQ(here.Look(), wanted);
     }
+}
+
+TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
+    const ProgramFolder program;
+    const FileLayer files = SystemFiles();
+    const auto folder = program.folders.EmporiumFolder();
+    const FolderClaim first = files.claim(folder);
+    EXPECT_FALSE(first.takenElsewhere);
+    EXPECT_TRUE(files.claim(folder).takenElsewhere);
+    std::shared_ptr<void> mine, others;
+    EXPECT_FALSE(files.lock(folder, mine));
+    EXPECT_EQ(files.lock(folder, others), std::errc::device_or_resource_busy);
+    mine.reset();
+    EXPECT_FALSE(files.lock(folder, others));
 }
 
 TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {

@@ -10,7 +10,6 @@
 
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <tuple>
 
 namespace emporium::test {
 namespace {
@@ -111,8 +110,7 @@ TEST(SystemFiles, AProcessMayEndInAnyCall) {
         const ProgramFolder program;
         const fs::path folder = program.folders.EmporiumFolder();
         program.Write("Emporium/a.dat", "alt a");
-        const pid_t child = ::fork();
-        if (child == 0) {
+        if (::fork() == 0) {
             FileLayer files = SystemFiles();
             int calls = 0;
             const auto guard = [&](auto& call) {
@@ -124,12 +122,12 @@ TEST(SystemFiles, AProcessMayEndInAnyCall) {
             };
             guard(files.createNew), guard(files.write), guard(files.flush), guard(files.rename);
             guard(files.remove), guard(files.flushFolder), guard(files.close);
-            std::ignore =
-                WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}});
-            ::_exit(0);
+            const auto b = folder / "b.dat";
+            ::_exit(WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {b, "b"}}).stands ? 0
+                                                                                            : 2);
         }
         int status = 0;
-        ::waitpid(child, &status, 0);
+        ::wait(&status);
         ended = WEXITSTATUS(status) == 1;
         EXPECT_FALSE(FinishJournal(SystemFiles(), folder).failure);
         EXPECT_FALSE(RemoveStrays(SystemFiles(), folder));

@@ -6,10 +6,10 @@
 namespace emporium::test {
 namespace {
 
-// Runs the act in worlds of their own, each with a trouble in another call of the disk. Nothing is
-// changed but under the lock. A failure is told with its reason, and files, records and controls
-// stand as before, or as without it; after a restart the disk holds what the window shows, and
-// nothing is lost or doubled if the program was killed.
+// Runs the act in worlds of their own, each with a trouble in another call of the world.program.
+// Nothing is changed but under the lock. A failure is told with its reason, and files, records and
+// controls stand as before, or as without it; after a restart the disk holds what the window shows,
+// and nothing is lost or doubled if the program was killed.
 void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
                         const std::function<void(EditorAtWork&)>& act) {
     EditorAtWork whole;
@@ -25,18 +25,16 @@ void ExpectAllOrNothing(const std::function<void(EditorAtWork&)>& prepare,
         prepare(world);
         std::string told;
         world.script.platform.ShowMessage = [&told](std::string_view text) { told += text; };
-        auto& disk = world.program;
-        const bool reached = disk.Suffer(trouble, n, second, [&] { act(world); });
+        const bool reached = world.program.Suffer(trouble, n, second, [&] { act(world); });
         world.script.Forget();
-        disk.Restart(trouble);
+        world.program.Restart(trouble);
         EXPECT_TRUE(InTurn(world.script.platform.disk, [] { return Outcome{true, {}}; }).stands);
-        EXPECT_FALSE(disk.unguarded);
+        EXPECT_FALSE(world.program.unguarded);
         const bool stands = world.Files() == filesAfter;
         EXPECT_TRUE(stands || world.Files() == filesBefore);
         if (trouble < Trouble::Killed) {
-            EXPECT_TRUE(stands ? told.find("konnte nicht") == told.npos
-                               : told.find("kein Platz") != told.npos)
-                << told;
+            const auto said = told.find(stands ? "konnte nicht" : "kein Platz");
+            EXPECT_EQ(said == told.npos, stands) << told;
             EXPECT_EQ(world.State(), stands ? stateAfter : stateBefore);
         }
         return reached;

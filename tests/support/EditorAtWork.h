@@ -142,11 +142,8 @@ public:
 
     /// All data files by name.
     std::map<std::string, std::string> Files() const {
-        std::map<std::string, std::string> files;
-        for (const auto& file : program.Entries(program.folders.EmporiumFolder()))
-            if (file.extension() == ".dat")
-                files[FromPath(file.filename())] =
-                    program.Read("Emporium/" + FromPath(file.filename()));
+        auto files = program.Contents(program.folders.EmporiumFolder());
+        std::erase_if(files, [](const auto& file) { return !file.first.ends_with(".dat"); });
         return files;
     }
 

@@ -1,5 +1,5 @@
 // A disk in memory. Any of its calls can fail or be the last one, and a power cut takes what was
-// not flushed: contents, names but removals, or both.
+// not flushed: contents, names, or both, but for removals then.
 #pragma once
 
 #include "base/Variablen.h"
@@ -34,7 +34,6 @@ public:
         std::string bytes, flushed; // of a link: where it leads
         bool writable = true;
     };
-    using Names = std::map<std::u8string, std::size_t>;
 
     MemoryDisk() {
         for (const auto& folder :
@@ -49,7 +48,7 @@ public:
     int calls = 0;
     bool unguarded = false; // the categories' folder was changed while nobody held the lock
     std::vector<Node> nodes;
-    Names names, flushedNames; // by path
+    std::map<std::u8string, std::size_t> names, flushedNames; // by path
 
     Node& Put(const Path& path, std::string bytes, Kind kind = Kind::File) {
         names[path.generic_u8string()] = flushedNames[path.generic_u8string()] = nodes.size();
@@ -69,8 +68,7 @@ public:
         names.erase((folders.DataFolder / ToPath(name)).generic_u8string());
     }
 
-    /// Does the work with trouble in its n-th call, and a second call failing; true if it came to
-    /// the n-th.
+    /// Does the work with trouble in its n-th call and a second one failing; true if it got there.
     bool Suffer(Trouble trouble, int n, int second, const std::function<void()>& work) {
         calls = 0;
         removesAtOnce = trouble == Trouble::BothLost;
@@ -101,25 +99,44 @@ public:
         return found == names.end() ? nullptr : &nodes[found->second];
     }
 
-    std::vector<Path> Entries(const Path& folder) const {
-        std::vector<Path> entries;
+    std::map<std::string, std::string> Contents(const Path& folder) const {
+        std::map<std::string, std::string> contents;
         for (const auto& [name, node] : names)
             if (Path(name).parent_path() == folder)
-                entries.emplace_back(name);
-        return entries;
+                contents[FromPath(Path(name).filename())] = nodes[node].bytes;
+        return contents;
     }
 
     FileLayer Files() {
         using Handle = FileLayer::Handle;
         FileLayer files;
-        files.read = [this](const Path& file, std::size_t) { return ReadFile(file); };
-        files.status = [this](const Path& path) { return StatusOf(path); };
+        files.read = [this](const Path& file, std::size_t) {
+            auto error = Count("read", file);
+            const Node* node = Find(file);
+            if (node && node->kind == Kind::Link)
+                node = Find(node->bytes);
+            if (!error && node && node->kind != Kind::File)
+                error = std::make_error_code(std::errc::operation_not_supported);
+            if (error)
+                return FileText{FileText::State::Unreadable, {}, error};
+            return node ? FileText{FileText::State::Whole, node->bytes, {}} : FileText();
+        };
+        files.status = [this](const Path& path) {
+            const auto error = Count("status", path);
+            const Node* node = error ? nullptr : Find(path);
+            return node ? FileStatus{node->kind, node->writable, false, {}}
+                        : FileStatus{Kind::Absent, false, false, error};
+        };
         files.linkTarget = [this](const Path& path) {
             const Node* node = Count("linkTarget", path) ? nullptr : Find(path);
             return node && node->kind == Kind::Link ? Path(node->bytes) : Path();
         };
         files.entries = [this](const Path& folder) {
-            return Count("entries", folder) ? std::vector<Path>() : Entries(folder);
+            std::vector<Path> entries;
+            if (!Count("entries", folder))
+                for (const auto& [name, bytes] : Contents(folder))
+                    entries.push_back(folder / ToPath(name));
+            return entries;
         };
         files.sameFile = [this](const Path& a, const Path& b) {
             return !Count("sameFile", a) && Find(a) && Find(a) == Find(b);
@@ -167,7 +184,17 @@ public:
                 flushedNames.erase(file.generic_u8string());
             return error;
         };
-        files.flushFolder = [this](const Path& folder) { return FlushFolder(folder); };
+        files.flushFolder = [this](const Path& folder) {
+            const auto isIn = [&folder](const auto& entry) {
+                return Path(entry.first).parent_path() == folder;
+            };
+            if (const auto error = Count("flushFolder", folder))
+                return error;
+            std::erase_if(flushedNames, isIn);
+            std::copy_if(names.begin(), names.end(),
+                         std::inserter(flushedNames, flushedNames.end()), isIn);
+            return std::error_code();
+        };
         files.createFolder = [this](const Path& folder) {
             const auto error = Count("createFolder", folder);
             if (!error && !Find(folder))
@@ -213,37 +240,6 @@ private:
         unguarded |= !locked && file.parent_path() == folders.EmporiumFolder();
         return Count(call, file);
     }
-
-    FileText ReadFile(const Path& file) {
-        auto error = Count("read", file);
-        const Node* node = Find(file);
-        if (node && node->kind == Kind::Link)
-            node = Find(node->bytes);
-        if (!error && node && node->kind != Kind::File)
-            error = std::make_error_code(std::errc::operation_not_supported);
-        if (error)
-            return {FileText::State::Unreadable, {}, error};
-        return node ? FileText{FileText::State::Whole, node->bytes, {}} : FileText();
-    }
-
-    FileStatus StatusOf(const Path& path) {
-        if (const auto error = Count("status", path))
-            return {Kind::Absent, false, false, error};
-        const Node* node = Find(path);
-        return node ? FileStatus{node->kind, node->writable, false, {}} : FileStatus();
-    }
-
-    std::error_code FlushFolder(const Path& folder) {
-        if (const auto error = Count("flushFolder", folder))
-            return error;
-        const auto isIn = [&folder](const auto& entry) {
-            return Path(entry.first).parent_path() == folder;
-        };
-        std::erase_if(flushedNames, isIn);
-        std::copy_if(names.begin(), names.end(), std::inserter(flushedNames, flushedNames.end()),
-                     isIn);
-        return {};
-    }
 };
 
 /// Tries every trouble in every call, until `tries` says that there is no n-th one.
@@ -251,8 +247,7 @@ inline void Sweep(const std::function<bool(Trouble trouble, int n)>& tries) {
     for (const Trouble trouble : {Trouble::Fails, Trouble::FailsFromThenOn, Trouble::Killed,
                                   Trouble::ContentsLost, Trouble::NamesLost, Trouble::BothLost})
         for (int n = 1, reached = 1; reached == 1; ++n) {
-            SCOPED_TRACE("call " + std::to_string(n) + ", trouble " +
-                         std::to_string(static_cast<int>(trouble)));
+            SCOPED_TRACE(testing::Message() << n << ", trouble " << static_cast<int>(trouble));
             reached = tries(trouble, n) ? 1 : 0;
         }
 }
