@@ -49,7 +49,8 @@ bool FileExists(const FileLayer& files, const fs::path& path) {
     const std::u8string pattern = path.filename().u8string();
     if (pattern.find_first_of(u8"*?") == pattern.npos)
         return IsNormalFile(files, path);
-    const std::vector<fs::path> entries = files.entries(path.parent_path());
+    std::vector<fs::path> entries;
+    files.entries(path.parent_path(), entries);
     return std::any_of(entries.begin(), entries.end(), [&](const fs::path& entry) {
         return MatchesWildcards(pattern, entry.filename().u8string()) && IsNormalFile(files, entry);
     });

@@ -58,8 +58,8 @@ struct FileLayer {
     /// Where a link leads to, as it says itself; empty for what is no link.
     std::function<Path(const Path& link)> linkTarget;
 
-    /// What lies in the folder, in no order, as far as it can be read.
-    std::function<std::vector<Path>(const Path& folder)> entries;
+    /// Adds what lies in the folder, in no order, as far as it can be read.
+    std::function<std::error_code(const Path& folder, std::vector<Path>& found)> entries;
 
     /// True if both paths lead to one file.
     std::function<bool(const Path& one, const Path& other)> sameFile;

@@ -109,12 +109,11 @@ Path LinkTarget(const Path& link) {
     return fs::read_symlink(link, none);
 }
 
-std::vector<Path> EntriesOf(const Path& folder) {
-    std::vector<Path> entries;
+std::error_code EntriesOf(const Path& folder, std::vector<Path>& found) {
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error))
-        entries.push_back(entry->path());
-    return entries;
+        found.push_back(entry->path());
+    return error;
 }
 
 bool SameFile(const Path& one, const Path& other) {

@@ -204,19 +204,20 @@ Path LinkTarget(const Path& link) {
     return name;
 }
 
-std::vector<Path> EntriesOf(const Path& folder) {
-    std::vector<Path> entries;
-    WIN32_FIND_DATAW found;
-    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &found);
+std::error_code EntriesOf(const Path& folder, std::vector<Path>& found) {
+    WIN32_FIND_DATAW entry;
+    HANDLE search = FindFirstFileW(SystemPath(folder / "*").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE)
-        return entries;
+        return LastError();
     do {
-        const std::wstring_view name = found.cFileName;
-        if (name != L"." && name != L".." && IsText(found.cFileName))
-            entries.push_back(folder / name);
-    } while (FindNextFileW(search, &found));
+        const std::wstring_view name = entry.cFileName;
+        if (name != L"." && name != L".." && IsText(entry.cFileName))
+            found.push_back(folder / name);
+    } while (FindNextFileW(search, &entry));
+    const bool whole = GetLastError() == ERROR_NO_MORE_FILES;
+    const std::error_code error = whole ? std::error_code() : LastError();
     FindClose(search);
-    return entries;
+    return error;
 }
 
 bool SameFile(const Path& one, const Path& other) {

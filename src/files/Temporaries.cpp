@@ -71,7 +71,9 @@ std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
 }
 
 std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
-    for (const fs::path& file : files.entries(folder))
+    std::vector<fs::path> entries;
+    files.entries(folder, entries);
+    for (const fs::path& file : entries)
         if (IsTemporary(file))
             if (const auto error = files.remove(file))
                 return FileFailure{file, error};

@@ -68,30 +68,42 @@ Outcome Delete(ItemEditor& editor, const Disk& disk, const std::string& name) {
 }
 
 // The fixed categories and those whose files are there.
-std::string ListMadeAnew(const Disk& disk) {
-    std::vector<std::string> names(FixedCategories().begin(), FixedCategories().end());
-    for (const auto& file : disk.files.entries(disk.folders.EmporiumFolder())) {
+std::error_code FindCategories(const Disk& disk, std::vector<std::string>& names) {
+    std::vector<std::filesystem::path> entries;
+    const auto error = disk.files.entries(disk.folders.EmporiumFolder(), entries);
+    names.assign(FixedCategories().begin(), FixedCategories().end());
+    for (const auto& file : entries) {
         const std::string name = FromPath(file.stem());
         if (file.extension() == ".dat" && IsPlainName(name) && !IsOwnFile(name) &&
             std::find(names.begin(), names.end(), name) == names.end())
             names.push_back(name);
     }
     std::sort(names.begin() + static_cast<std::ptrdiff_t>(FixedCategories().size()), names.end());
+    return error;
+}
+
+std::string ListText(const std::vector<std::string>& names) {
     std::string text = " " + std::to_string(names.size()) + " \r\n";
     for (const std::string& name : names)
         text += name + "\r\n";
     return text;
 }
 
-// The caller has the turn.
+// The caller has the turn. A list that another program has made meanwhile stays.
 Outcome MakeListAnew(ItemEditor& editor, const Disk& disk) {
-    Outcome outcome{true, {}};
-    if (ReadCategoryNames(disk).state == FileText::State::Absent)
-        outcome =
-            WriteChanges(disk, {{CategoryListPath(disk.folders), ListMadeAnew(disk)}}, NotCreated);
-    if (outcome.stands)
-        SetCategoryNames(editor, ReadCategoryNames(disk).names);
-    return outcome;
+    CategoryList list = ReadCategoryNames(disk);
+    if (list.state == FileText::State::Absent) {
+        if (const auto error = FindCategories(disk, list.names))
+            return {false, FailureText(NotCreated, {disk.folders.EmporiumFolder(), error})};
+        Outcome written = WriteChanges(
+            disk, {{CategoryListPath(disk.folders), ListText(list.names)}}, NotCreated);
+        if (!written.stands)
+            return written;
+    } else if (const auto fault = CategoryListFault(list); !fault.empty()) {
+        return Refused(NotCreated, fault);
+    }
+    SetCategoryNames(editor, list.names);
+    return {true, {}};
 }
 
 // The change of the list in one turn; false if it does not stand.

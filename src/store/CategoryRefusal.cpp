@@ -22,7 +22,8 @@ bool FileStands(const Disk& disk, std::string_view name) {
     if (disk.files.status(file).kind != FileStatus::Kind::Absent)
         return true;
     const std::string wanted = FoldCase(FromPath(file.filename()));
-    const auto entries = disk.files.entries(disk.folders.EmporiumFolder());
+    std::vector<std::filesystem::path> entries;
+    disk.files.entries(disk.folders.EmporiumFolder(), entries);
     return std::any_of(entries.begin(), entries.end(), [&wanted](const auto& entry) {
         return FoldCase(FromPath(entry.filename())) == wanted;
     });

@@ -16,6 +16,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::vector<fs::path> EntriesIn(const fs::path& folder) {
+    std::vector<fs::path> found;
+    EXPECT_FALSE(SystemFiles().entries(folder, found));
+    return found;
+}
+
 TEST(SystemFiles, TellsWhatStandsThereAndReadsNothingButFiles) {
     const ProgramFolder program;
     const FileLayer files = SystemFiles();
@@ -56,7 +62,7 @@ TEST(SystemFiles, TellsWhatStandsThereAndReadsNothingButFiles) {
         WriteFiles(files, folder, {{folder / "a.dat", "neu"}, {folder / "b.dat", "b"}}).stands);
     EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
     EXPECT_EQ(fs::status(folder / "a.dat").permissions(), fs::perms::owner_all);
-    EXPECT_EQ(files.entries(folder).size(), 6U);
+    EXPECT_EQ(EntriesIn(folder).size(), 6U);
     fs::permissions(folder / "a.dat", fs::perms::none);
     const bool mayAll = ::seteuid(65534) == 0; // then as one who may not
     EXPECT_EQ(files.read(folder / "a.dat", 1).reason, std::errc::permission_denied);
@@ -73,10 +79,11 @@ TEST(SystemFiles, TellsWhatACallCameTo) {
     const fs::path file = folder / "a.dat";
     const fs::path nowhere = folder / "fehlt" / "a.dat";
     program.Write("Emporium/a.dat", "lang");
-    const auto open = files.entries("/proc/self/fd");
+    const auto open = EntriesIn("/proc/self/fd");
     FileLayer::Handle handle = 0;
     std::size_t written = 0;
     std::shared_ptr<void> lock;
+    std::vector<fs::path> none;
     const std::pair<std::error_code, std::errc> calls[] = {
         {files.createNew(file, handle), std::errc::file_exists},
         {files.overwrite(folder, handle), std::errc::is_a_directory},
@@ -94,12 +101,13 @@ TEST(SystemFiles, TellsWhatACallCameTo) {
         {files.flushFolder(nowhere), std::errc::no_such_file_or_directory},
         {files.flushFolder("/proc"), {}}, // knows no flushing
         {files.createFolder(folder), {}},
+        {files.entries(nowhere, none), std::errc::no_such_file_or_directory},
         {files.lock(nowhere, lock), std::errc::no_such_file_or_directory},
         {files.lock(folder, lock), {}}};
     for (const auto& [error, expected] : calls)
         EXPECT_EQ(error, expected) << error.message();
     lock.reset();
-    EXPECT_EQ(files.entries("/proc/self/fd"), open);
+    EXPECT_EQ(EntriesIn("/proc/self/fd"), open);
     EXPECT_EQ(program.Read("Emporium/a.dat"), "neu");
 }
 
@@ -134,7 +142,7 @@ TEST(SystemFiles, AProcessMayEndInAnyCall) {
         const bool isNew = program.Read("Emporium/a.dat") == "neu";
         EXPECT_TRUE(isNew || ended);
         EXPECT_EQ(program.Read("Emporium/b.dat"), isNew ? "b" : "(absent)") << n;
-        EXPECT_EQ(SystemFiles().entries(folder).size(), isNew ? 2U : 1U) << n;
+        EXPECT_EQ(EntriesIn(folder).size(), isNew ? 2U : 1U) << n;
     }
 }
 

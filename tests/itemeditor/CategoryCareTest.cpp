@@ -116,7 +116,12 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
         "den drei festen Kategorien und allen, deren Dateien da sind?";
     world.script.ExpectYesNo(question, false);
     NewCategory(world.editor, world.script.platform);
+    world.program.failingCall = "entries Emporium";
+    world.script.ExpectYesNo(question, true);
+    world.script.ExpectMessage("Die Kategorie konnte nicht angelegt werden.");
+    NewCategory(world.editor, world.script.platform);
     EXPECT_EQ(world.File("ItemKategorien"), "(absent)");
+    world.program.failingCall.clear();
     world.script.ExpectYesNo(question, true);
     world.script.ExpectText(NamePrompt, "");
     NewCategory(world.editor, world.script.platform);

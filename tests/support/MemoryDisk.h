@@ -131,12 +131,11 @@ public:
             const Node* node = Count("linkTarget", path) ? nullptr : Find(path);
             return node && node->kind == Kind::Link ? Path(node->bytes) : Path();
         };
-        files.entries = [this](const Path& folder) {
-            std::vector<Path> entries;
-            if (!Count("entries", folder))
-                for (const auto& [name, bytes] : Contents(folder))
-                    entries.push_back(folder / ToPath(name));
-            return entries;
+        files.entries = [this](const Path& folder, std::vector<Path>& found) {
+            const auto error = Count("entries", folder);
+            for (const auto& [name, bytes] : Contents(error ? Path() : folder))
+                found.push_back(folder / ToPath(name));
+            return error;
         };
         files.sameFile = [this](const Path& a, const Path& b) {
             return !Count("sameFile", a) && Find(a) && Find(a) == Find(b);
