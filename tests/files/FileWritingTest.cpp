@@ -246,13 +246,5 @@ TEST(SystemFiles, OneHandAtATimeAndEveryCopyIsSeen) {
     EXPECT_FALSE(files.lock(folder, others));
 }
 
-TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
-    std::vector<std::string> faults(12, "x");
-    const std::string twelve = FaultsText(faults);
-    EXPECT_EQ(twelve, "x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx");
-    faults.resize(14);
-    EXPECT_EQ(FaultsText(faults), twelve + "\n... und 2 weitere Meldungen.");
-}
-
 } // namespace
 } // namespace emporium::test

@@ -1,5 +1,6 @@
 #include "store/CategoryFiles.h"
 
+#include "files/FileFailure.h"
 #include "store/CategoryFaults.h"
 #include "store/CategoryList.h"
 #include "store/CategoryRefusal.h"
@@ -110,6 +111,14 @@ TEST(CategoryNames, NamesThatAreTakenOrThatNoFileCanBearAreRefused) {
         EXPECT_EQ(*ReadCategoryFile(Disk{SystemFiles(), program.folders}, name).bytes, name);
         EXPECT_NE(refusal(name), "") << "its file stands now";
     }
+}
+
+TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
+    std::vector<std::string> faults(12, "x");
+    const std::string twelve = FaultsText(faults);
+    EXPECT_EQ(twelve, "x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx");
+    faults.resize(14);
+    EXPECT_EQ(FaultsText(faults), twelve + "\n... und 2 weitere Meldungen.");
 }
 
 } // namespace

@@ -18,9 +18,6 @@
 
 namespace emporium::test {
 
-/// Thrown where the program would end.
-struct KilledHere {};
-
 /// What can befall an operation in a call of the disk; the losses are those of a power cut.
 enum class Trouble { Fails, FailsFromThenOn, Killed, ContentsLost, NamesLost, BothLost };
 
@@ -46,14 +43,14 @@ public:
     std::string failingCall; // by name and file, e.g. "read Kleidung.dat"
     std::set<int> failing;   // calls by number, from 1
     int calls = 0;
+    bool locked = false;    // also by another copy
     bool unguarded = false; // the categories' folder was changed while nobody held the lock
     std::vector<Node> nodes;
     std::map<std::u8string, std::size_t> names, flushedNames; // by path
 
     Node& Put(const Path& path, std::string bytes, Kind kind = Kind::File) {
         names[path.generic_u8string()] = flushedNames[path.generic_u8string()] = nodes.size();
-        nodes.push_back({kind, bytes, bytes, true});
-        return nodes.back();
+        return nodes.emplace_back(Node{kind, bytes, bytes, true});
     }
 
     /// A file below Data, e.g. "Emporium/Kleidung.dat" with ANSI bytes; the name is ANSI too.
@@ -216,9 +213,8 @@ public:
         return files;
     }
 
-    bool locked = false; // also by another copy
-
 private:
+    struct KilledHere {}; // thrown where the program would end
     static constexpr int never = 1 << 30;
     int failingFrom = never, lastCall = never; // calls; the program ends in the last
     bool removesAtOnce = false;                // reach the disk before what was done earlier
