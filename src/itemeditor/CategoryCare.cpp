@@ -75,7 +75,7 @@ std::error_code FindCategories(const Disk& disk, std::vector<std::string>& names
     for (const auto& file : entries) {
         const std::string name = FromPath(file.stem());
         if (file.extension() == ".dat" && IsPlainName(name) && !IsOwnFile(name) &&
-            std::find(names.begin(), names.end(), name) == names.end())
+            name != AllCategories && std::find(names.begin(), names.end(), name) == names.end())
             names.push_back(name);
     }
     std::sort(names.begin() + static_cast<std::ptrdiff_t>(FixedCategories().size()), names.end());

@@ -106,6 +106,7 @@ TEST(CategoryCare, WhatIsNoFileOrNotOursToWriteIsRefusedAndAMissingListMadeAnew)
     world.View("Abakus");
 
     world.program.Remove("Emporium/ItemKategorien.dat");
+    world.program.Write("Emporium/Alles.dat", ""); // can be no category
     std::vector<std::string> faults;
     ReadCategoryList(world.editor, world.script.platform.disk, faults);
     ASSERT_EQ(faults.size(), 1U);
