@@ -31,14 +31,16 @@ unclean() {
 lint() {
     piece=$build/lint/$1
     shift
-    touch "$piece.begun"
-    # Of the compiler's command clang-tidy needs the flags, without what GCC precompiled.
-    source=$(sed -nE '1s/#include (.*)/\1/p' "$piece.cpp")
-    command=$(grep -B1 "\"file\": $source" "$build/compile_commands.json" |
-        sed -nE 's/.*"command": "[^ ]+ (.*) -o .*/\1/; s/ -Winvalid-pch -include [^ ]+//; s/ -fpch-preprocess//p')
-    clang-tidy --quiet --config-file=.clang-tidy --header-filter='/src/[a-z]+/[^/]+$' \
-        --checks=-bugprone-suspicious-include "$piece.cpp" -- \
-        $command -Wno-unknown-warning-option "$@" 2>&1 || return 1
+    mkdir -p "$piece" && touch "$piece.begun"
+    # The command of a source, but for what GCC precompiled; GCC's own warning flags are unknown here.
+    source=$(sed -nE '1s/#include "(.*)"/\1/p' "$piece.cpp")
+    { echo '[{'
+        grep -B2 "\"file\": \"$source\"" "$build/compile_commands.json" | sed "s|$source|$piece.cpp|
+            s/ -Winvalid-pch -include .*cmake_pch.hxx[^ ]*//; s/ -fpch-preprocess//; \$s/,$//"
+        echo '}]'; } >"$piece/compile_commands.json"
+    clang-tidy --quiet -p "$piece" --config-file=.clang-tidy --header-filter='/src/[a-z]+/[^/]+$' \
+        --checks=-bugprone-suspicious-include --extra-arg=-Wno-unknown-warning-option "$@" \
+        "$piece.cpp" 2>&1 || return 1
     mv "$piece.begun" "$piece.clean"
 }
 
