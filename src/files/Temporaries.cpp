@@ -72,7 +72,8 @@ std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
 
 std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
     std::vector<fs::path> entries;
-    files.entries(folder, entries);
+    if (const auto error = files.entries(folder, entries))
+        return FileFailure{folder, error};
     for (const fs::path& file : entries)
         if (IsTemporary(file))
             if (const auto error = files.remove(file))
