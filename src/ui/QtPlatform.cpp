@@ -65,8 +65,8 @@ std::filesystem::path ShowSave(QWidget& window, const std::filesystem::path& fol
     QFileDialog dialog(Owner(window), "Speichern unter", PathText(folder), ToQtFilter(filter));
     dialog.setObjectName("CD");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    return dialog.exec() == QDialog::Accepted ? PathFrom(dialog.selectedFiles().constFirst())
-                                              : std::filesystem::path();
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    return accepted ? PathFrom(dialog.selectedFiles().value(0)) : std::filesystem::path();
 }
 
 void SetWaitPointer(bool waiting) {
