@@ -1,5 +1,6 @@
 #include "frame/StartUp.h"
 
+#include "base/Variablen.h"
 #include "files/Links.h"
 #include "files/Temporaries.h"
 #include "frame/Version.h"
@@ -7,6 +8,8 @@
 #include "store/ArsenalImport.h"
 #include "store/CategoryRenaming.h"
 #include "store/WriteTurn.h"
+
+#include <utility>
 
 namespace emporium {
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/Platform.h"
-#include "base/Variablen.h"
 #include "documents/PrintHost.h"
 #include "generator/frmEmporiumGenerator.h"
 #include "itemeditor/ItemEditor.h"

@@ -44,17 +44,18 @@ Outcome Create(ItemEditor& editor, const Disk& disk, const std::string& name, bo
     return WriteList(editor, disk, WithCategory(list, name), name, std::string(), NotCreated);
 }
 
-// Why the category's file stays, empty if it can go.
-std::string FileRefusal(const Disk& disk, const std::string& name) {
+// Whether the category's file can go.
+Outcome Removable(const Disk& disk, const std::string& name) {
     const auto path = CategoryPath(disk.folders, name);
     const FileText present = disk.files.read(path, LargestFile);
     if (present.state == FileText::State::Unreadable)
-        return FailureText(NotDeleted, {path, present.reason});
+        return {false, FailureText(NotDeleted, {path, present.reason})};
     if (!present.bytes.empty())
-        return name + std::string(".dat: Diese Kategorie ist nicht mehr leer, denn ein anderes "
-                                  "Programm hat ihre Datei geändert. Sie wird nicht gelöscht. "
-                                  "Wählt sie noch einmal, um den neuen Stand zu sehen."_ansi);
-    return {};
+        return {false,
+                name + std::string(".dat: Diese Kategorie ist nicht mehr leer, denn ein anderes "
+                                   "Programm hat ihre Datei geändert. Sie wird nicht gelöscht. "
+                                   "Wählt sie noch einmal, um den neuen Stand zu sehen."_ansi)};
+    return {true, {}};
 }
 
 // The caller has the turn.
@@ -62,8 +63,8 @@ Outcome Delete(ItemEditor& editor, const Disk& disk, const std::string& name) {
     const CategoryList list = ReadCategoryNames(disk);
     if (const auto fault = CategoryListFault(list); !fault.empty())
         return Refused(NotDeleted, fault);
-    if (auto refusal = FileRefusal(disk, name); !refusal.empty())
-        return {false, std::move(refusal)};
+    if (Outcome removable = Removable(disk, name); !removable.stands)
+        return removable;
     return WriteList(editor, disk, WithoutCategory(list, name), name, std::nullopt, NotDeleted);
 }
 
@@ -99,6 +100,7 @@ Outcome MakeListAnew(ItemEditor& editor, const Disk& disk) {
             disk, {{CategoryListPath(disk.folders), ListText(list.names)}}, NotCreated);
         if (!written.stands)
             return written;
+        list.names.resize(std::min<std::size_t>(list.names.size(), MaxRows)); // as when read
     } else if (const auto fault = CategoryListFault(list); !fault.empty()) {
         return Refused(NotCreated, fault);
     }
