@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <numeric>
 #include <tuple>
 
 namespace emporium {
@@ -74,13 +75,25 @@ private:
     char second_ = 0; // of the character before
 };
 
-// A text of a list. Most pairs differ in the first letters behind what all of the list begin with,
-// and numbers are compared several times as fast as texts.
+// A text of a list by the first letters behind what all of the list begin with. Most pairs differ
+// in them, and numbers are sorted many times as fast as texts.
 struct Entry {
-    std::string_view text;
     std::uint64_t head = 0;
-    int index = 0;
+    std::size_t index = 0;
 };
+using Entries = std::vector<Entry>;
+using TextAt = std::function<std::string_view(std::size_t)>;
+
+std::size_t SharedLength(std::size_t count, const TextAt& textAt) {
+    std::string_view shared = count == 0 ? std::string_view() : textAt(0);
+    for (std::size_t i = 1; i < count && !shared.empty(); ++i) {
+        const std::string_view text = textAt(i);
+        const auto end =
+            std::mismatch(shared.begin(), shared.end(), text.begin(), text.end()).first;
+        shared = shared.substr(0, static_cast<std::size_t>(end - shared.begin()));
+    }
+    return shared.size();
+}
 
 std::uint64_t Head(std::string_view text) {
     Folded folded(text);
@@ -90,14 +103,27 @@ std::uint64_t Head(std::string_view text) {
     return head;
 }
 
-std::size_t SharedLength(const std::vector<Entry>& entries) {
-    std::string_view shared = entries.empty() ? std::string_view() : entries.front().text;
-    for (const Entry& entry : entries) {
-        const auto end =
-            std::mismatch(shared.begin(), shared.end(), entry.text.begin(), entry.text.end()).first;
-        shared = shared.substr(0, static_cast<std::size_t>(end - shared.begin()));
+// Byte by byte, the last one first, each time without changing the order of equal ones.
+void SortByHead(Entries& entries) {
+    Entries sorted(entries.size());
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        std::array<std::size_t, 257> places{};
+        for (const Entry& entry : entries)
+            ++places[(entry.head >> shift & 255U) + 1];
+        std::partial_sum(places.begin(), places.end(), places.begin());
+        for (const Entry& entry : entries)
+            sorted[places[entry.head >> shift & 255U]++] = entry;
+        entries.swap(sorted);
     }
-    return shared.size();
+}
+
+// Those with the same head.
+void SortByText(Entries::iterator begin, Entries::iterator end, bool descending,
+                const TextAt& textAt) {
+    std::stable_sort(begin, end, [&](const Entry& left, const Entry& right) {
+        const auto& [a, b] = descending ? std::tie(right, left) : std::tie(left, right);
+        return GermanLess(textAt(a.index), textAt(b.index));
+    });
 }
 
 } // namespace
@@ -112,20 +138,24 @@ bool GermanLess(std::string_view left, std::string_view right) {
     return a.AtEnd() && b.AtEnd() ? left < right : a.AtEnd();
 }
 
-std::vector<int> GermanOrderOf(std::size_t count, bool descending,
-                               const std::function<std::string_view(std::size_t)>& textAt) {
-    std::vector<Entry> entries(count);
-    for (std::size_t i = 0; i < count; ++i)
-        entries[i] = {textAt(i), 0, static_cast<int>(i)};
-    const std::size_t shared = SharedLength(entries);
-    for (Entry& entry : entries)
-        entry.head = Head(entry.text.substr(shared));
-    std::stable_sort(entries.begin(), entries.end(), [&](const Entry& left, const Entry& right) {
-        const auto& [a, b] = descending ? std::tie(right, left) : std::tie(left, right);
-        return a.head != b.head ? a.head < b.head : GermanLess(a.text, b.text);
-    });
+std::vector<int> GermanOrderOf(std::size_t count, bool descending, const TextAt& textAt) {
+    const std::size_t shared = SharedLength(count, textAt);
+    Entries entries(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint64_t head = Head(textAt(i).substr(shared));
+        entries[i] = {descending ? ~head : head, i};
+    }
+    SortByHead(entries);
+    for (auto begin = entries.begin(); begin != entries.end();) {
+        const auto end = std::find_if(
+            begin, entries.end(), [&](const Entry& entry) { return entry.head != begin->head; });
+        if (end - begin > 1)
+            SortByText(begin, end, descending, textAt);
+        begin = end;
+    }
     std::vector<int> order(count);
-    std::transform(entries.begin(), entries.end(), order.begin(), std::mem_fn(&Entry::index));
+    std::transform(entries.begin(), entries.end(), order.begin(),
+                   [](const Entry& entry) { return static_cast<int>(entry.index); });
     return order;
 }
 
