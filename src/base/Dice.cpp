@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <chrono>
-#include <cmath>
 
 namespace emporium {
 
@@ -28,7 +27,7 @@ std::int32_t Dice::RollDice(std::int32_t n) {
     const auto u = static_cast<float>(Mix(state_) >> 40U) * 0x1p-24F; // 24 bits: exact, below 1
     if (n < 2)
         return 1;
-    return static_cast<std::int32_t>(std::floor(static_cast<double>(u) * n + 1.0));
+    return static_cast<std::int32_t>(static_cast<double>(u) * n) + 1;
 }
 
 } // namespace emporium

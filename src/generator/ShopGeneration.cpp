@@ -78,6 +78,7 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
     if (!count && faults.empty())
         faults.emplace_back("ShopgeneratorConfig.dat: Zu dieser Shopart fehlt die Zeile WareCount, "
                             "oder sie nennt keine Zahl.");
+    shop.lvLaden.rows.reserve(MaxRows); // growing would move them all again and again
     WareFiles files(platform.disk, faults);
     for (int n = 1; n <= count.value_or(0); ++n) {
         const std::string name = ReadWareCategory(type, static_cast<std::int16_t>(n));

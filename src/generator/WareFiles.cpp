@@ -27,7 +27,7 @@ SharedText WareFiles::Text(const std::string& name) {
 
 std::string WareFiles::Read(const std::string& name) {
     const auto file = CategoryPath(disk_.folders, name);
-    if (!IsPlainName(name) || !FileExists(disk_.files, file))
+    if (!IsPlainName(name))
         return {};
     FileText category = disk_.files.read(file, LargestFile);
     if (category.state == FileText::State::Unreadable)

@@ -42,7 +42,12 @@ std::string PlainNotation(std::string_view text) {
 } // namespace
 
 std::optional<double> ReadGermanNumber(std::string_view text) {
-    const std::string plain = PlainNotation(Trim(text));
+    text = Trim(text);
+    std::int32_t whole = 0; // like nearly all prices
+    const auto [wholeEnd, none] = std::from_chars(text.data(), text.data() + text.size(), whole);
+    if (none == std::errc() && wholeEnd == text.data() + text.size())
+        return whole;
+    const std::string plain = PlainNotation(text);
     if (plain.empty())
         return std::nullopt;
     double value = 0;

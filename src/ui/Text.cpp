@@ -4,13 +4,14 @@
 
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace emporium::ui {
 
 QString ToQString(std::string_view text) {
-    QString out;
-    out.reserve(static_cast<qsizetype>(text.size()));
-    for (const char byte : text)
-        out += QChar(static_cast<char16_t>(ansi::Decode(byte)));
+    QString out(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), out.begin(),
+                   [](char byte) { return QChar(static_cast<char16_t>(ansi::Decode(byte))); });
     return out;
 }
 
