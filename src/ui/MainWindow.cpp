@@ -41,11 +41,12 @@ MainWindow::MainWindow(const std::filesystem::path& programFolder)
     move(CentredPlace(*this));
     ConnectPlatform(programFolder);
     BuildBackgrounds();
+    started_ = StartUp(session_.state, session_.platform);
     BuildControls();
     connect(browser_, &HtmlView::navigateComplete, this,
             [this] { session_.Do([this] { ReportPage(session_.state.print); }); });
     session_.mirror.Bind([this] { MirrorWindow(); });
-    session_.Do([&] { started_ = StartUp(session_.state, session_.platform); });
+    session_.mirror.Update();
     LoadButtonPictures(*this, session_.platform.disk);
     itemEditor_->FocusCategories();
 }
