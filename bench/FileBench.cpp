@@ -51,6 +51,20 @@ void Write(int categories, benchmark::State& state) {
                       *file.bytes);
 }
 
+// The same beside a file, which is replaced so that it outlives a power cut.
+void Replace(int categories, benchmark::State& state) {
+    const World world(static_cast<int>(state.range(0)), categories);
+    const FileLayer& files = world.platform.disk.files;
+    const auto file = ReadCategoryFile(world.platform.disk, CategoryName(0));
+    const auto beside = world.folders.TempFolder / "bytes.neu";
+    for (auto _ : state) {
+        WriteAndFlush(files, beside, *file.bytes);
+        if (files.rename(beside, world.folders.TempFolder / "bytes.dat") ||
+            files.flushFolder(world.folders.TempFolder))
+            std::abort();
+    }
+}
+
 // A changed item, in a view of one category or of all.
 void Save(int categories, int view, benchmark::State& state) {
     World world(static_cast<int>(state.range(0)), categories);
@@ -69,9 +83,11 @@ void Save(int categories, int view, benchmark::State& state) {
 const std::vector<Measurement> Measurements = {
     {"LoadAlles", "BoundReadAlles", LoadAlles},
     {"BoundReadAlles", "", Read},
-    {"SaveInCategory", "BoundWriteCategory", std::bind_front(Save, 1, 1), true},
+    {"SaveInCategory", "BoundReplaceCategory", std::bind_front(Save, 1, 1), true},
+    {"BoundReplaceCategory", "BoundWriteCategory", std::bind_front(Replace, 1), true},
     {"BoundWriteCategory", "", std::bind_front(Write, 1), true},
-    {"SaveInAlles", "BoundWriteOneOf50", std::bind_front(Save, Categories, 0), true},
+    {"SaveInAlles", "BoundReplaceOneOf50", std::bind_front(Save, Categories, 0), true},
+    {"BoundReplaceOneOf50", "BoundWriteOneOf50", std::bind_front(Replace, Categories), true},
     {"BoundWriteOneOf50", "", std::bind_front(Write, Categories), true}};
 
 } // namespace
