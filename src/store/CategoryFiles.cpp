@@ -14,9 +14,9 @@ CategoryFile ReadCategoryFile(const Disk& disk, std::string_view name) {
     RecordReader reader(*file.bytes);
     for (RecordView record; file.records.size() < MaxRows && reader.Next(record);)
         file.records.push_back(record);
-    file.cutOff = reader.CutOff();
     RecordView next;
     file.goesOn = file.records.size() == MaxRows && reader.Next(next);
+    file.cutOff = reader.CutOff();
     return file;
 }
 

@@ -172,6 +172,9 @@ TEST(ItemSaving, AViewTakesAsManyRowsAsTheirNumbersReach) {
     world.program.Write("Emporium/Abakus.dat", bytes + RecordLines({Hat}));
     world.script.ExpectMessage("Abakus.dat: Sie hat mehr als 32767 Gegenst");
     world.View("Abakus");
+    world.program.Write("Emporium/Abakus.dat", bytes + "Rest1\n");
+    world.script.ExpectMessage("Abakus.dat: Der letzte Datensatz");
+    world.View("Abakus");
 }
 
 } // namespace
