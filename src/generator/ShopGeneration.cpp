@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace emporium {
 
@@ -86,7 +85,7 @@ void DrawShop(const frmEmporiumGenerator& dialog, ShopEditor& shop, const Platfo
         case Drawn::All:
             break;
         case Drawn::CutOff:
-            faults.push_back(std::string(name).append(".dat: ").append(RecordIsCutOff));
+            faults.push_back(CategoryLine(name, RecordIsCutOff));
             break;
         case Drawn::ShopIsFull:
             faults.emplace_back(ShopFullText);

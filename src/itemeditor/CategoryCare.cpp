@@ -2,6 +2,7 @@
 
 #include "itemeditor/CategoryChoice.h"
 #include "itemeditor/CategoryDropDowns.h"
+#include "store/CategoryFaults.h"
 #include "store/CategoryList.h"
 #include "store/CategoryRefusal.h"
 #include "store/WriteTurn.h"
@@ -46,15 +47,14 @@ Outcome Create(ItemEditor& editor, const Disk& disk, const std::string& name, bo
 
 // Whether the category's file can go.
 Outcome Removable(const Disk& disk, const std::string& name) {
-    const auto path = CategoryPath(disk.folders, name);
-    const FileText present = disk.files.read(path, LargestFile);
+    const CategoryFile present = ReadCategoryFile(disk, name);
     if (present.state == FileText::State::Unreadable)
-        return {false, FailureText(NotDeleted, {path, present.reason})};
-    if (!present.bytes.empty())
-        return {false,
-                name + std::string(".dat: Diese Kategorie ist nicht mehr leer, denn ein anderes "
-                                   "Programm hat ihre Datei geändert. Sie wird nicht gelöscht. "
-                                   "Wählt sie noch einmal, um den neuen Stand zu sehen."_ansi)};
+        return {false, FailureText(NotDeleted, {CategoryPath(disk.folders, name), present.reason})};
+    if (!present.records.empty() || present.cutOff)
+        return {false, CategoryLine(name, "Diese Kategorie ist nicht mehr leer, denn ein anderes "
+                                          "Programm hat ihre Datei geändert. Sie wird nicht "
+                                          "gelöscht. Wählt sie noch einmal, um den neuen Stand "
+                                          "zu sehen."_ansi)};
     return {true, {}};
 }
 
@@ -75,7 +75,7 @@ std::error_code FindCategories(const Disk& disk, std::vector<std::string>& names
     names.assign(FixedCategories().begin(), FixedCategories().end());
     for (const auto& file : entries) {
         const std::string name = FromPath(file.stem());
-        if (file.extension() == ".dat" && IsPlainName(name) && !IsOwnFile(name) &&
+        if (file.extension() == CategoryEnding && IsPlainName(name) && !IsOwnFile(name) &&
             name != AllCategories && std::find(names.begin(), names.end(), name) == names.end())
             names.push_back(name);
     }
@@ -150,8 +150,8 @@ void DeleteCategory(ItemEditor& editor, const Platform& platform) {
     const int file = ViewFileOf(editor, name);
     if (file >= 0 && !editor.FileAt(file).canBeWritten) {
         platform.ShowMessage(
-            name + std::string(".dat: Diese Kategorie konnte nicht vollständig gelesen werden, "
-                               "deshalb wird sie nicht gelöscht."_ansi));
+            CategoryLine(name, "Diese Kategorie konnte nicht vollständig gelesen werden, deshalb "
+                               "wird sie nicht gelöscht."_ansi));
         return;
     }
     Change(editor, platform, [&] {

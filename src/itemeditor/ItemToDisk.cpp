@@ -28,7 +28,7 @@ constexpr std::string_view NotWhole =
 constexpr std::string_view Gone = "Diese Kategorie gibt es nicht mehr. Wählt eine andere."_ansi;
 
 Outcome Refusal(const std::string& category, std::string_view why) {
-    return {false, category + ".dat: " + std::string(why)};
+    return {false, CategoryLine(category, why)};
 }
 
 // A missing file is made anew, but not for a category that another program has deleted: nobody

@@ -16,10 +16,10 @@ void AddToView(ItemView& view, const std::string& name, const CategoryFile& file
     const auto room = static_cast<std::size_t>(MaxRows - view.ItemCount());
     const auto count = std::min(room, file.records.size());
     if (count < file.records.size())
-        faults.push_back(name +
-                         std::string(".dat: Die Ansicht fasst höchstens 32767 Gegenstände. Was "
-                                     "darüber hinausgeht, wird nicht gezeigt, und die Datei wird "
-                                     "von hier aus nicht verändert."_ansi));
+        faults.push_back(
+            CategoryLine(name, "Die Ansicht fasst höchstens 32767 Gegenstände. Was darüber "
+                               "hinausgeht, wird nicht gezeigt, und die Datei wird von hier aus "
+                               "nicht verändert."_ansi));
     const int home = static_cast<int>(view.viewFiles.size());
     for (std::size_t i = 0; i < count; ++i)
         view.Items.push_back({file.records[i], home});

@@ -86,18 +86,18 @@ void FitInto(const CategoryFile& category, std::string_view name, std::vector<It
     if (added.size() <= room)
         return;
     added.resize(room);
-    faults.push_back(std::string(name).append(".dat: ").append(CategoryIsFull));
+    faults.push_back(CategoryLine(name, CategoryIsFull));
 }
 
 std::string PassedOverText(const std::filesystem::path& source,
                            const std::vector<std::string>& names) {
     constexpr std::size_t shown = 3;
-    std::string text = "Arsenal, " + FromPath(source.filename()) + ": " +
-                       std::to_string(names.size()) +
-                       std::string(" Einträge ohne Namen oder Währung wurden übergangen"_ansi);
+    std::string text = "Arsenal, " + FromPath(source.filename()) +
+                       std::string(": Ohne Namen oder Währung, deshalb übergangen: "_ansi) +
+                       std::to_string(names.size());
     for (std::size_t i = 0; i < names.size() && i < shown; ++i)
-        text += (i == 0 ? ": " : ", ") + (names[i].empty() ? "ohne Namen" : names[i]);
-    return text + ".";
+        text += (i == 0 ? " (" : ", ") + (names[i].empty() ? "ohne Namen" : names[i]);
+    return text + (names.size() > shown ? ", ...)." : ").");
 }
 
 void ImportCategory(const Disk& disk, std::string_view name, const SourceForm& form,

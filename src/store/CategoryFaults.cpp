@@ -6,11 +6,13 @@
 
 namespace emporium {
 
+std::string CategoryLine(std::string_view name, std::string_view what) {
+    return std::string(name).append(CategoryEnding).append(": ").append(what);
+}
+
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file) {
     std::vector<std::string> faults;
-    const auto add = [&](std::string_view what) {
-        faults.push_back(std::string(name).append(CategoryEnding).append(": ").append(what));
-    };
+    const auto add = [&](std::string_view what) { faults.push_back(CategoryLine(name, what)); };
     if (file.state == FileText::State::Absent)
         add("Die Datei fehlt.");
     if (file.state == FileText::State::Unreadable)

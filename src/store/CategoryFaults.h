@@ -17,6 +17,9 @@ inline constexpr std::string_view CategoryIsFull =
 inline constexpr std::string_view RecordIsCutOff =
     "Der letzte Datensatz ist nicht vollständig."_ansi;
 
+/// The line that tells something of a category's file, with its name in front.
+std::string CategoryLine(std::string_view name, std::string_view what);
+
 /// What the user should know of the file, one line for each fault: missing, unreadable, cut
 /// off, records whose name or price line lacks its mark. Empty if all is well.
 std::vector<std::string> CategoryFaults(std::string_view name, const CategoryFile& file);

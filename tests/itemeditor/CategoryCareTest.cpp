@@ -52,12 +52,14 @@ TEST(CategoryCare, WhatAnotherProgramDidToTheCategoriesStands) {
     world.program.Write("Emporium/ItemKategorien.dat", "1\nAlles\nAbakus\n");
     world.program.Write("Emporium/Abakus.dat", "");
     world.View("Abakus");
-    world.script.ExpectYesNo(DeleteCategoryQuestion, true);
-    world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
-    world.program.Write("Emporium/Abakus.dat", "Fremd1\n");
-    DeleteCategory(world.editor, world.script.platform);
-    EXPECT_EQ(world.File("Abakus"), "Fremd1\n");
-    world.program.Write("Emporium/Abakus.dat", "");
+    for (const std::string& foreign : {std::string("Fremd1\n"), RecordLines({Hat})}) {
+        world.program.Write("Emporium/Abakus.dat", foreign);
+        world.script.ExpectYesNo(DeleteCategoryQuestion, true);
+        world.script.ExpectMessage("Abakus.dat: Diese Kategorie ist nicht mehr leer");
+        DeleteCategory(world.editor, world.script.platform);
+        EXPECT_EQ(world.File("Abakus"), foreign);
+    }
+    world.program.Write("Emporium/Abakus.dat", "\n");
     world.script.ExpectYesNo(DeleteCategoryQuestion, true);
     DeleteCategory(world.editor, world.script.platform);
     EXPECT_EQ(list(), " 0 \nAlles\n");

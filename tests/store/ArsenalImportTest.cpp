@@ -68,12 +68,11 @@ TEST_F(ArsenalImport, OnlyEverAddsAndNothingASecondTime) {
         {"two of one name", axe + axe, "", Item("Axt") + Item("Axt")},
         {"a name among the other lines", Source("Meine"), raised, Item("Meine")},
         {"an unknown unit", Source("Pfeil", "taler"), "", "",
-         "Arsenal, Fernwaffen.dat: 1 Einträge ohne Namen oder Währung wurden übergangen: "
-         "Pfeil."_ansi},
+         "Arsenal, Fernwaffen.dat: Ohne Namen oder Währung, deshalb übergangen: 1 (Pfeil)."_ansi},
         {"neither unit nor name", Source("Pfeil", "") + Source("") + axe + Source("") + Source(""),
          "", Item("Axt"),
-         "Arsenal, Fernwaffen.dat: 4 Einträge ohne Namen oder Währung wurden übergangen: "
-         "Pfeil, ohne Namen, ohne Namen."_ansi},
+         "Arsenal, Fernwaffen.dat: Ohne Namen oder Währung, deshalb übergangen: 4 "
+         "(Pfeil, ohne Namen, ohne Namen, ...)."_ansi},
         {"a category that is cut off", axe, "Rest1\r\n", "",
          "Fernwaffen.dat: Der letzte Datensatz ist nicht vollständig."_ansi},
         {"LF ends in the category", bow + axe, axeLf, bogenLf},
