@@ -1,6 +1,7 @@
 #include "files/Journal.h"
 
 #include "files/Temporaries.h"
+#include "text/Ansi.h"
 #include "text/LineReader.h"
 
 #include <charconv>
@@ -64,9 +65,11 @@ bool ReadFingerprint(LineReader& lines, std::optional<Fingerprint>& print) {
     return true;
 }
 
+// A name that is no UTF-8 would end the program where a path is made of it.
 bool IsPlainFileName(std::string_view name) {
+    const std::u8string text(name.begin(), name.end());
     return !name.empty() && name != "." && name != ".." &&
-           name.find_first_of("/\\:\0"sv) == name.npos;
+           name.find_first_of("/\\:\0"sv) == name.npos && ToUtf8(FromUtf8(text)) == text;
 }
 
 bool ReadEntry(LineReader& lines, JournalEntry& entry) {
@@ -74,13 +77,13 @@ bool ReadEntry(LineReader& lines, JournalEntry& entry) {
     lines.Next(target);
     lines.Next(temporary);
     std::optional<Fingerprint> after;
-    if (!ReadFingerprint(lines, entry.before) || !ReadFingerprint(lines, after) || !after)
+    if (!ReadFingerprint(lines, entry.before) || !ReadFingerprint(lines, after) || !after ||
+        !IsPlainFileName(target) || !(temporary.empty() || IsPlainFileName(temporary)))
         return false;
     entry.target = FromUtf8Name(target);
     entry.temporary = FromUtf8Name(temporary);
     entry.after = *after;
-    return IsPlainFileName(target) &&
-           (temporary.empty() || IsTemporaryOf(entry.target, entry.temporary));
+    return temporary.empty() || IsTemporaryOf(entry.target, entry.temporary);
 }
 
 } // namespace

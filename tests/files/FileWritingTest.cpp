@@ -218,7 +218,7 @@ TEST(Recovery, AJournalThatIsNotOursIsSetAside) {
     for (const std::string& journal :
          {text /* without the new contents */, text.substr(1), std::string(),
           sealed("", "orvan-journal 1\n"), sealed("x.dat\n\n-\n-\n-\n-\n"),
-          sealed("x.dat\n\n1\nx\n1\n1\n"), sealed("x.dat\n\n"),
+          sealed("x.dat\n\n1\nx\n1\n1\n"), sealed("x.dat\n\n"), sealed("\xFF\n\n-\n-\n1\n1\n"),
           foreign("../b.dat", "../b.dat.orvan-neu0"), foreign("/x.dat", "/x.dat.orvan-neu0"),
           foreign("x.dat", "c.dat"), foreign("x.dat", "b.dat.orvan-neu0"), foreign("..", "")}) {
         Writing here;
