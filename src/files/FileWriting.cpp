@@ -86,18 +86,13 @@ std::optional<FileFailure> Prepare(const FileLayer& files, std::span<const FileC
     return std::nullopt;
 }
 
-std::error_code Apply(const FileLayer& files, const Step& step) {
-    return step.temporary.empty() ? files.remove(step.target)
-                                  : files.rename(step.temporary, step.target);
-}
-
 // That the names of complete contents may reach the disk a little later is no reason to tell the
 // user that nothing was written.
 WriteResult WriteSingle(const FileLayer& files, const FileChange& change) {
     std::vector<Step> steps;
     if (auto failure = Prepare(files, {&change, 1}, steps))
         return {false, failure};
-    if (const auto error = Apply(files, steps.front())) {
+    if (const auto error = PutInPlace(files, steps.front().temporary, steps.front().target)) {
         RemoveTemporaries(files, steps);
         return {false, FileFailure{change.file, error}};
     }
@@ -138,7 +133,7 @@ WriteResult WriteBound(const FileLayer& files, const fs::path& folder,
         return {false, failure};
     }
     for (const Step& step : steps)
-        if (const auto error = Apply(files, step))
+        if (const auto error = PutInPlace(files, step.temporary, step.target))
             return {true, FileFailure{step.target, error}};
     if (!files.flushFolder(folder))
         files.remove(journal);

@@ -1,6 +1,7 @@
 #include "files/Recovery.h"
 
 #include "files/Journal.h"
+#include "files/Temporaries.h"
 #include "text/Ansi.h"
 
 #include <algorithm>
@@ -81,11 +82,6 @@ Recovery SetAside(const FileLayer& files, const fs::path& journal, std::string_v
              FromPath(aside.filename()) + "."}};
 }
 
-std::error_code Apply(const FileLayer& files, const FoundStep& step) {
-    return step.temporary.empty() ? files.remove(step.target)
-                                  : files.rename(step.temporary, step.target);
-}
-
 void RemoveTemporary(const FileLayer& files, const FoundStep& step) {
     if (!step.temporary.empty())
         files.remove(step.temporary);
@@ -104,7 +100,7 @@ Recovery Carry(const FileLayer& files, const fs::path& folder,
             recovery.notices.push_back(ForeignNotice(step.target));
         if (!recovery.notices.empty() || step.progress == Progress::Done)
             RemoveTemporary(files, step);
-        else if (const auto error = Apply(files, step))
+        else if (const auto error = PutInPlace(files, step.temporary, step.target))
             return {FileFailure{step.target, error}, {}};
     }
     if (const auto error = files.flushFolder(folder))

@@ -70,6 +70,11 @@ std::error_code WriteTemporary(const FileLayer& files, const fs::path& target,
     return error;
 }
 
+std::error_code PutInPlace(const FileLayer& files, const fs::path& temporary,
+                           const fs::path& target) {
+    return temporary.empty() ? files.remove(target) : files.rename(temporary, target);
+}
+
 std::optional<FileFailure> RemoveStrays(const FileLayer& files, const fs::path& folder) {
     std::vector<fs::path> entries;
     if (const auto error = files.entries(folder, entries))

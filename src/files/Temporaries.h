@@ -24,6 +24,11 @@ bool IsTemporaryOf(const std::filesystem::path& target, const std::filesystem::p
                                              std::string_view contents, bool replaces,
                                              std::filesystem::path& temporary);
 
+/// Has the temporary take the target's place, or removes the target if it is empty.
+[[nodiscard]] std::error_code PutInPlace(const FileLayer& files,
+                                         const std::filesystem::path& temporary,
+                                         const std::filesystem::path& target);
+
 /// Removes the temporary files that a killed run left in the folder. Not while another copy of the
 /// program may be writing there.
 [[nodiscard]] std::optional<FileFailure> RemoveStrays(const FileLayer& files,
