@@ -26,8 +26,10 @@ SharedText WareFiles::Text(const std::string& name) {
 }
 
 std::string WareFiles::Read(const std::string& name) {
-    const auto file = CategoryPath(disk_.folders, name);
     if (!IsPlainName(name))
+        return {};
+    const auto file = CategoryPath(disk_.folders, name);
+    if (!FileExists(disk_.files, file))
         return {};
     FileText category = disk_.files.read(file, LargestFile);
     if (category.state == FileText::State::Unreadable)
