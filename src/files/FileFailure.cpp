@@ -84,7 +84,7 @@ std::string FaultsText(const std::vector<std::string>& faults) {
     for (std::size_t i = 0; i < faults.size() && i < shown; ++i)
         text += (i > 0 ? "\n" : "") + faults[i];
     if (faults.size() > shown)
-        text += "\n... und " + std::to_string(faults.size() - shown) + " weitere Meldungen.";
+        text += "\n... weitere Meldungen: " + std::to_string(faults.size() - shown) + ".";
     return text;
 }
 

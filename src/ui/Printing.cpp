@@ -2,7 +2,6 @@
 
 #include "base/Variablen.h"
 #include "files/FileWriting.h"
-#include "text/Ansi.h"
 #include "ui/Text.h"
 
 #include <QApplication>
@@ -14,6 +13,7 @@
 #include <QProgressDialog>
 
 #include <algorithm>
+#include <memory>
 
 namespace emporium::ui {
 
@@ -163,7 +163,7 @@ bool PrintPage(const PrintDesk& desk, HtmlView& page) {
         return true;
     if (printer.fromPage() > page.PageCount()) {
         desk.ShowMessage(ToAnsi(QString("Auf diesem Papier gibt es die gewählten Seiten nicht. "
-                                        "Es sind %1.")
+                                        "Seiten: %1.")
                                     .arg(page.PageCount())));
         return true;
     }

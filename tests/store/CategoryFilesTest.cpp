@@ -118,7 +118,7 @@ TEST(FaultsText, ShowsTwelveAndCountsTheOthers) {
     const std::string twelve = FaultsText(faults);
     EXPECT_EQ(twelve, "x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx");
     faults.resize(14);
-    EXPECT_EQ(FaultsText(faults), twelve + "\n... und 2 weitere Meldungen.");
+    EXPECT_EQ(FaultsText(faults), twelve + "\n... weitere Meldungen: 2.");
 }
 
 } // namespace
