@@ -42,6 +42,7 @@ std::string PeakMemory() {
 } // namespace
 
 int main(int argc, char** argv) {
+    emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
     if (argc < 2)
         return 2;

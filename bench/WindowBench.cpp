@@ -239,6 +239,7 @@ void PrintMemory() {
 } // namespace emporium::bench
 
 int main(int argc, char** argv) {
+    emporium::ui::PrepareApplication();
     QApplication application(argc, argv);
     emporium::ui::SetUpApplication(application);
     using namespace emporium::bench;
