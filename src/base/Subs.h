@@ -1,5 +1,5 @@
-// Small routines that every part of the program shares: a value of a settings file, the test for a
-// file. The third of them, RollDice, is in Dice.
+// Small routines: a value of a settings file, the test for a file. The third of them, RollDice, is
+// in Dice.
 #pragma once
 
 #include "files/FileLayer.h"

@@ -115,7 +115,8 @@ std::filesystem::path RunningProgramFolder();
 inline constexpr std::size_t LargestFile = std::size_t{1} << 28U;
 inline constexpr std::size_t LargestList = std::size_t{1} << 24U;
 
-/// The file in the folder that bears the lock, as long as it is held.
+/// The file in the folder that bears the lock, as long as it is held. One that a killed run left
+/// locks nothing and goes with the next lock.
 inline constexpr const char* LockName = "Schreibsperre.orvan-lock";
 
 /// How long `lock` waits, and how long it sleeps between two tries.

@@ -58,8 +58,8 @@ std::string NoDataText(const Disk& disk) {
            FromPath(disk.folders.EmporiumFolder());
 }
 
-// While an interrupted write can't be finished, nothing is written on top of it.
-// The text of a box if so.
+// While an interrupted write can't be finished, nothing is written on top of it, and a box has to
+// tell that; else the text is empty.
 std::string BringUpToDate(const Disk& disk, std::vector<std::string>& faults) {
     Outcome outcome = InTurn(disk, [&]() -> Outcome {
         if (const auto failure = RemoveStrays(disk.files, disk.folders.EmporiumFolder()))

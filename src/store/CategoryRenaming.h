@@ -10,7 +10,7 @@
 namespace emporium {
 
 /// Brings the files to their present names, over files of that name. Adds to `faults` what
-/// failed; both files stand as before then.
+/// failed; both files stand as before then, or the next start makes up for it.
 void RenameOldCategoryFiles(const Disk& disk, std::vector<std::string>& faults);
 
 } // namespace emporium

@@ -1,5 +1,5 @@
-// The page that is printed. It shows one local file as a browser shows it, loads nothing else and
-// runs nothing, whatever the names in it contain.
+// The page that is printed; on the screen, a white sheet. It loads nothing else and runs nothing,
+// whatever the names in it contain.
 #pragma once
 
 #include "ui/PageLayout.h"

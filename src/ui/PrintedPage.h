@@ -41,10 +41,10 @@ struct StyledText {
     QList<QTextLayout::FormatRange> styles;
 };
 
-/// What a browser shows for the text: blanks run together, tags for bold, italic and struck letters
-/// and for breaks have effect, other tags vanish, and named characters are put in. Takes a time in
-/// proportion to the text, however its tags are nested. A text of more than 10,000 letters ends
-/// there with three dots.
+/// What a browser shows for the text: blanks run together, tags for bold, italic, struck and
+/// underlined letters and for breaks have effect, other tags vanish, and named characters are put
+/// in. Takes a time in proportion to the text, however its tags are nested. A text of more than
+/// 10,000 letters ends there with three dots.
 StyledText ReadMarkup(QStringView markup);
 
 } // namespace emporium::ui
