@@ -3,7 +3,6 @@
 // names.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -5,7 +5,6 @@
 
 #include "base/Dice.h"
 #include "base/Disk.h"
-#include "files/FileLayer.h"
 
 #include <chrono>
 #include <filesystem>

@@ -1,4 +1,5 @@
-// The folders of the program, all derived from the folder that holds it, and the product's title.
+// The folders of the program, all derived from the folder that holds it, the product's title, and
+// how much its lists hold.
 #pragma once
 
 #include <filesystem>
@@ -21,7 +22,7 @@ struct Folders {
     std::filesystem::path EmporiumFolder() const { return DataFolder / "Emporium"; }
 };
 
-/// The folders beside the program. Nothing is tested for existence.
+/// The folders in that of the program. Nothing is tested for existence.
 Folders InitFolders(const std::filesystem::path& ProgramFolder);
 
 } // namespace emporium

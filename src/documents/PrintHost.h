@@ -3,7 +3,6 @@
 #pragma once
 
 #include "base/Platform.h"
-#include "base/Variablen.h"
 
 #include <functional>
 #include <string>

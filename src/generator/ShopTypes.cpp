@@ -1,7 +1,6 @@
 #include "generator/ShopTypes.h"
 
 #include "files/FileFailure.h"
-#include "text/Ansi.h"
 #include "text/LineReader.h"
 
 namespace emporium {

@@ -1,5 +1,6 @@
 #include "generator/frmEmporiumGenerator.h"
 
+#include "base/Variablen.h"
 #include "files/FileFailure.h"
 #include "generator/ShopTypes.h"
 #include "regions/AtlasEngine.h"

@@ -4,7 +4,6 @@
 
 #include "base/Controls.h"
 #include "base/Platform.h"
-#include "base/Variablen.h"
 #include "shopeditor/ShopEditor.h"
 
 #include <string>

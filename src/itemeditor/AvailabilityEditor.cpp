@@ -1,5 +1,6 @@
 #include "itemeditor/AvailabilityEditor.h"
 
+#include "regions/AtlasEngine.h"
 #include "regions/Availability.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "itemeditor/ItemEditor.h"
 
+#include "regions/AtlasEngine.h"
 #include "store/CategoryPaths.h"
 
 namespace emporium {

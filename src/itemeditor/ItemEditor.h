@@ -4,7 +4,6 @@
 
 #include "base/Controls.h"
 #include "itemeditor/ItemView.h"
-#include "regions/AtlasEngine.h"
 
 #include <array>
 #include <string>

@@ -8,7 +8,7 @@
 namespace emporium {
 
 std::string_view ItemCell(const RecordView& record, int column) {
-    return column == ItemNameColumn ? ItemName(record) : std::string_view(record[PriceField]);
+    return column == ItemNameColumn ? ItemName(record) : record[PriceField];
 }
 
 namespace {

@@ -6,8 +6,6 @@
 #include "itemeditor/ItemToDisk.h"
 #include "store/WriteTurn.h"
 
-#include <algorithm>
-
 namespace emporium {
 
 namespace {

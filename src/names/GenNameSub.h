@@ -4,7 +4,6 @@
 #include "base/Dice.h"
 #include "base/Disk.h"
 #include "files/FileFailure.h"
-#include "files/FileLayer.h"
 
 #include <optional>
 #include <string>

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "files/FileLayer.h"
 #include "text/Ansi.h"
 
 #include <array>

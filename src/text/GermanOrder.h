@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <string>
 #include <string_view>
 #include <vector>
 

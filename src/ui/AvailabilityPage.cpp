@@ -1,6 +1,7 @@
 #include "ui/AvailabilityPage.h"
 
 #include "itemeditor/AvailabilityEditor.h"
+#include "regions/AtlasEngine.h"
 #include "ui/Build.h"
 #include "ui/RegionList.h"
 #include "ui/Text.h"

@@ -5,6 +5,7 @@
 #include "ui/Pictures.h"
 #include "ui/Printing.h"
 #include "ui/QtPlatform.h"
+#include "ui/ShopEditorPane.h"
 #include "ui/Text.h"
 
 #include <QCloseEvent>
@@ -93,7 +94,7 @@ MainWindow::~MainWindow() {
     delete controls_;
 }
 
-// The one that is seen first is decoded while the controls are built.
+// The one that is seen first is decoded while the data are read and the controls built.
 void MainWindow::BuildBackgrounds() {
     const auto background = [this](const char* name) {
         auto* picture = Named(new Picture(this), name);

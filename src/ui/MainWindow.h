@@ -5,9 +5,7 @@
 #include "ui/HtmlView.h"
 #include "ui/ItemEditorPane.h"
 #include "ui/Session.h"
-#include "ui/ShopEditorPane.h"
 
-#include <QPixmap>
 #include <QPointer>
 
 #include <filesystem>
@@ -18,7 +16,7 @@ class MainWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Builds the window and starts the program on the folders beside `programFolder`.
+    /// Builds the window and starts the program on the folders in `programFolder`.
     explicit MainWindow(const std::filesystem::path& programFolder);
     ~MainWindow() override;
 
