@@ -146,8 +146,10 @@ TEST_F(GenerateShops, OddConfigurationsDrawWhatTheyName) {
         {"WareCount=2;Ware1=Kleidung;Ware2=Kleidung", 2},
         {"WareCount=1;Ware1=../Emporium/Kleidung", 0},
         {"WareCount=1;Ware1=K*", 0},
+        {"WareCount=1;Ware1=Ordner", 0},
         {"WareCount=1;Ware1=", 0}};
     program.Write("Emporium/.dat", Item("Falle1"));
+    script.platform.disk.files.createFolder(program.folders.EmporiumFolder() / "Ordner.dat");
     for (const auto& [section, times] : cases) {
         std::string lines(section);
         std::replace(lines.begin(), lines.end(), ';', '\n');
