@@ -8,6 +8,22 @@
 
 namespace emporium::ui {
 
+namespace {
+
+// What the code page lacks is taken apart: a ligature into its letters, say.
+std::string LettersOf(QChar c) {
+    const bool known = ansi::Encode(c.unicode()).has_value();
+    std::string letters;
+    for (const QChar part :
+         known ? QString(c) : QString(c).normalized(QString::NormalizationForm_KD))
+        if (const auto byte = ansi::Encode(part.unicode());
+            byte && part.category() != QChar::Other_Control)
+            letters += *byte;
+    return letters;
+}
+
+} // namespace
+
 QString ToQString(std::string_view text) {
     QString out(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
     std::transform(text.begin(), text.end(), out.begin(),
@@ -25,10 +41,14 @@ std::string ToAnsi(const QString& text) {
 
 std::string CleanInput(const QString& text) {
     std::string out;
+    bool gap = false; // a line end or tab since the last letter
     for (const QChar c : text.normalized(QString::NormalizationForm_C)) {
-        const auto byte = ansi::Encode(c.unicode());
-        if (byte && c.category() != QChar::Other_Control)
-            out += *byte;
+        gap = gap || c == u'\n' || c == u'\r' || c == u'\t';
+        const std::string letters = LettersOf(c);
+        if (gap && !letters.empty() && !out.empty() && out.back() != ' ')
+            out += ' ';
+        gap = gap && letters.empty();
+        out += letters;
     }
     return out;
 }

@@ -14,8 +14,9 @@ QString ToQString(std::string_view text);
 /// A text that the window shows. A character that the code page lacks becomes "?".
 std::string ToAnsi(const QString& text);
 
-/// What of an entered text may reach the program: composed, without line ends, control characters
-/// and characters that the code page lacks.
+/// What of an entered text may reach the program: composed, with a blank for line ends and tabs
+/// between its words. Other control characters are left out, and so is what the code page lacks
+/// and what it has no letters for: "ﬁ" becomes "fi".
 std::string CleanInput(const QString& text);
 
 /// For a tool tip, which takes a text for HTML when it looks like it.
