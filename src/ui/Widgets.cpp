@@ -1,6 +1,8 @@
 #include "ui/Widgets.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOptionButton>
@@ -106,6 +108,20 @@ void ChoiceBox::showPopup() {
 
 void ChoiceBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
+}
+
+// A blank opens the list, but between letters that follow each other quickly it is one of them.
+void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+    const bool goesOn =
+        typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+    if (!event->text().trimmed().isEmpty() || goesOn)
+        typed_.start();
+    if (goesOn && event->key() == Qt::Key_Space) {
+        QKeyEvent letter(event->type(), Qt::Key_unknown, event->modifiers(), " ");
+        QComboBox::keyPressEvent(&letter);
+    } else {
+        QComboBox::keyPressEvent(event);
+    }
 }
 
 } // namespace emporium::ui

@@ -4,6 +4,7 @@
 #include "ui/FittedPicture.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QPushButton>
 
 namespace emporium::ui {
@@ -95,6 +96,10 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QElapsedTimer typed_;
 };
 
 } // namespace emporium::ui

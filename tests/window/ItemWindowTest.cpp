@@ -60,6 +60,14 @@ TEST_F(WindowTest, RowsOpenByKeyAndByLettersAndQuickHeaderClicksAreTwo) {
         QTest::keyClicks(list, letters);
         EXPECT_EQ(FieldText("txtItem0"), name) << letters;
     }
+    auto* wert = Find<QComboBox>("cmbItemWert");
+    for (const int pause : {60'000, 0}) {
+        QApplication::setKeyboardInputInterval(pause);
+        QTest::keyClicks(wert, "2 ");
+        EXPECT_EQ(wert->currentIndex(), 1);
+        EXPECT_EQ(wert->view()->isVisible(), pause == 0) << "a blank among letters is one of them";
+    }
+    wert->hidePopup();
 }
 
 TEST_F(WindowTest, RegionsArePickedByHandOnlyAndMove) {
@@ -134,14 +142,14 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
     // Between the marks is what is selected before; behind it is where the caret stands then.
     const QString table[][5] = {
         {"line ends and NUL", "txtItem0", "Z||e", QString("\r\nE\ti\u2028n\n") + QChar(0),
-         "ZEin|e"},
+         "ZE in|e"},
         {"a decomposed umlaut", "txtItem0", "||", "Mu\u0308hle", "Mühle|"},
-        {"beyond the code page", "txtItem0", "|ab|c", "Ж5€", "5€|c"},
+        {"beyond the code page", "txtItem0", "|ab|c", "Жﬁź5€", "fiz5€|c"},
         {"a sign behind a digit", "txtItem2", "7||", "-3", "7|"},
         {"a second comma", "txtItem2", "1||2,5", ",", "1|2,5"},
         {"blanks around a number", "txtItem2", "3|4|,5", " 12\n", "312|,5"},
         {"a number with a unit", "txtItem1", "1|7|", "5 kg", "1|7"},
-        {"beyond the code page, in a box", "", "Kr||uter", "Жä\n", "Krä|uter"},
+        {"beyond the code page, in a box", "", "Kr||uter", "Жä\n", "Krä |uter"},
     };
     for (const auto& [what, name, before, entered, after] : table) {
         auto* field = name.isEmpty() ? &box : Find<QLineEdit>(name);
