@@ -109,8 +109,10 @@ void SetShopRowPrice(ShopEditor& shop, const Platform& platform) {
     ShopRow* row = DemandCurrentRow(shop, platform);
     if (!row)
         return;
-    const std::string answer =
-        platform.AskText("Bitte gebt den neuen Preis ein.", "bisher " + row->Price);
+    std::string hint = "bisher " + row->Price.substr(0, row->Price.size() - row->Unit.size());
+    if (!row->Unit.empty())
+        hint.append(", die Währung "_ansi).append(row->Unit).append(" bleibt");
+    const std::string answer = platform.AskText("Bitte gebt den neuen Preis ein.", hint);
     if (answer.empty())
         return;
     row->Price = std::string(answer).append(row->Unit);
