@@ -14,7 +14,8 @@ Outcome CannotLock(const std::filesystem::path& folder, const std::error_code& e
     if (error == std::errc::device_or_resource_busy)
         return {false, std::string("Ein anderes Fenster des Programms schreibt gerade. Versucht es "
                                    "gleich noch einmal."_ansi)};
-    return {false, FailureText("Der Ordner der Kategorien ist nicht zugänglich."_ansi,
+    return {false, FailureText("Es wurde nichts geschrieben: Der Ordner der Kategorien ist nicht "
+                               "zugänglich."_ansi,
                                {folder / LockName, error})};
 }
 
