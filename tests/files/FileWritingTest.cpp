@@ -170,7 +170,7 @@ TEST(FileWriting, AnExportGoesWhereTheUserSays) {
 
 TEST(Journal, OnlyAWholeJournalIsRead) {
     const std::string text =
-        JournalText({{"Ö 1.dat", "Ö 1.dat.orvan-neu0", std::nullopt, FingerprintOf("")},
+        JournalText({{u8"Ö 1.dat", u8"Ö 1.dat.orvan-neu0", std::nullopt, FingerprintOf("")},
                      {"b.dat", "", Fingerprint{1U << 31U, 7}, FingerprintOf("")}});
     EXPECT_EQ(JournalText(ReadJournal(text).value()), text);
     for (std::size_t i = 0; i < text.size(); ++i) {
