@@ -45,7 +45,7 @@ std::string CleanInput(const QString& text) {
     for (const QChar c : text.normalized(QString::NormalizationForm_C)) {
         gap = gap || c == u'\n' || c == u'\r' || c == u'\t';
         const std::string letters = LettersOf(c);
-        if (gap && !letters.empty() && !out.empty() && out.back() != ' ')
+        if (gap && !letters.empty() && letters != " " && !out.empty() && out.back() != ' ')
             out += ' ';
         gap = gap && letters.empty();
         out += letters;

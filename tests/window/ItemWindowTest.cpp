@@ -141,7 +141,7 @@ TEST_F(WindowTest, PastedAndComposedTextIsCleaned) {
     ui::GuardInput(box);
     // Between the marks is what is selected before; behind it is where the caret stands then.
     const QString table[][5] = {
-        {"line ends and NUL", "txtItem0", "Z||e", QString("\r\nE\ti\u2028n\n") + QChar(0),
+        {"line ends and NUL", "txtItem0", "Z||e", QString("\r\nE\t i\u2028n\n") + QChar(0),
          "ZE in|e"},
         {"a decomposed umlaut", "txtItem0", "||", "Mu\u0308hle", "Mühle|"},
         {"beyond the code page", "txtItem0", "|ab|c", "Жﬁź5€", "fiz5€|c"},
