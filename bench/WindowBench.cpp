@@ -125,8 +125,7 @@ double RunWindow(const std::filesystem::path& folder) {
     const std::string command = "exec " START_BENCH " '" + folder.string() + "'";
     FILE* child = popen(command.c_str(), "r");
     std::array<char, 64> kilobytes{};
-    const bool told = std::fgets(kilobytes.data(), kilobytes.size(), child);
-    if (pclose(child) != 0 || !told)
+    if (!std::fgets(kilobytes.data(), kilobytes.size(), child) || pclose(child) != 0)
         std::abort();
     return std::stoi(kilobytes.data()) / 1024.0;
 }
