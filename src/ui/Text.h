@@ -15,8 +15,8 @@ QString ToQString(std::string_view text);
 std::string ToAnsi(const QString& text);
 
 /// What of an entered text may reach the program: composed, with a blank for line ends and tabs
-/// between its words. Other control characters are left out, and so is what the code page lacks
-/// and what it has no letters for: "ﬁ" becomes "fi".
+/// between its words and without other control characters. What the code page lacks is taken apart,
+/// so that "ﬁ" becomes "fi"; what has no such parts is left out.
 std::string CleanInput(const QString& text);
 
 /// For a tool tip, which takes a text for HTML when it looks like it.
